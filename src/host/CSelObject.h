@@ -1,0 +1,46 @@
+#pragma once
+// CSelObject: a named object with selection flags, one per 16-bit view number.
+//
+// Archive form: the name (string), a 16-bit count of the views whose flag is set, then each
+// of those view numbers (16-bit) in increasing order.
+
+#include "platform/core/CObject.h"
+
+#include <cstdint>
+#include <vector>
+
+class CSelObject : public CObject {
+public:
+    CSelObject() = default;
+    CSelObject(const CSelObject& other) = default;
+    // Assigns name and flags and returns a copy, as the host's callers expect.
+    CSelObject operator=(const CSelObject& other);
+    ~CSelObject() override = default;
+
+    CRuntimeClass* GetRuntimeClass() const override;
+    void Serialize(CArchive& ar) override;
+    void Dump(CDumpContext& dc) const override;
+
+    void SetName(CString name) { m_name = std::move(name); }
+    CString GetName() const { return m_name; }
+
+    void Select(unsigned short view);
+    void Unselect(unsigned short view);
+    int IsSelected(unsigned short view) const;
+    void Change(unsigned short view);
+    // Whether the flag of any view is set.
+    bool IsAnySelected() const { return m_lowViews != 0 || !m_highViews.empty(); }
+
+    static CRuntimeClass classCSelObject;
+
+protected:
+    // Copies name and flags without the copy that operator= returns.
+    void AssignSelection(const CSelObject& other);
+
+private:
+    static constexpr unsigned kLowViews = 64;
+
+    CString m_name;
+    std::uint64_t m_lowViews = 0;            // views 0 to 63, one bit each
+    std::vector<unsigned short> m_highViews; // views from 64 on, sorted
+};

@@ -1,0 +1,60 @@
+#pragma once
+// A user interface for tests: it records every request with its exact text and answers from
+// queues prepared by the test. A question that finds its queue empty takes the default
+// button and is counted in Unanswered(), so a test can tell it was not expected.
+
+#include "platform/core/UserInterface.h"
+
+#include <deque>
+#include <utility>
+
+namespace seisplot {
+
+class ScriptedUserInterface : public UserInterface {
+public:
+    using Message = ShownMessage;
+    // The answer to one unit question: confirm (with these picks, by quantity name and
+    // label), or cancel.
+    struct UnitAnswer {
+        bool confirm = true;
+        std::vector<std::pair<CString, CString>> picks;
+    };
+
+    // Answers, consumed in order
+    void QueueAnswer(int id) { m_answers.push_back(id); }
+    void QueueFiles(std::vector<CString> paths) { m_files.push_back(std::move(paths)); }
+    void QueueCancelFiles() { m_files.push_back(std::nullopt); }
+    void QueueUnits(UnitAnswer answer) { m_units.push_back(std::move(answer)); }
+
+    // What happened
+    const std::vector<Message>& Messages() const { return m_messages; }
+    std::vector<CString> MessageTexts() const;
+    const std::vector<FileRequest>& FileRequests() const { return m_fileRequests; }
+    const std::vector<UnitQuestion>& UnitQuestions() const { return m_unitQuestions; }
+    const std::vector<CString>& Processes() const { return m_processes; }
+    int Unanswered() const { return m_unanswered; }
+    int WaitDepth() const { return m_waitDepth; }
+    int WaitCount() const { return m_waitCount; }
+    void Clear();
+
+    int ShowMessage(const CString& text, UINT type) override;
+    std::optional<std::vector<CString>> ChooseFiles(const FileRequest& request) override;
+    bool ChooseUnits(UnitQuestion& question) override;
+    void BeginWait() override;
+    void EndWait() override { --m_waitDepth; }
+    bool StartProcess(const CString& commandLine) override;
+
+private:
+    std::deque<int> m_answers;
+    std::deque<std::optional<std::vector<CString>>> m_files;
+    std::deque<UnitAnswer> m_units;
+    std::vector<Message> m_messages;
+    std::vector<FileRequest> m_fileRequests;
+    std::vector<UnitQuestion> m_unitQuestions;
+    std::vector<CString> m_processes;
+    int m_unanswered = 0;
+    int m_waitDepth = 0;
+    int m_waitCount = 0;
+};
+
+} // namespace seisplot

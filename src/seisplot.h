@@ -1,0 +1,38 @@
+#pragma once
+// seisplot: the whole public API.
+
+// Framework stand-ins
+#include "platform/core/CArchive.h"
+#include "platform/core/CFile.h"
+#include "platform/core/CFileDialog.h"
+#include "platform/core/CObject.h"
+#include "platform/core/COleDateTime.h"
+#include "platform/core/CPoint.h"
+#include "platform/core/CString.h"
+#include "platform/core/ConsoleUserInterface.h"
+#include "platform/core/Exceptions.h"
+#include "platform/core/HeadlessUserInterface.h"
+#include "platform/core/ScriptedUserInterface.h"
+#include "platform/core/StringTable.h"
+#include "platform/core/Types.h"
+#include "platform/core/UserInterface.h"
+
+// The host's geometry, units, selection and numerics
+#include "host/Boxes.h"
+#include "host/CSelObject.h"
+#include "host/CVector.h"
+#include "host/CurveBase.h"
+#include "host/CurveColl.h"
+#include "host/Intersect.h"
+#include "host/Mathp.h"
+#include "host/PCurve.h"
+#include "host/RPoint2D.h"
+#include "host/RPoint2DColl.h"
+#include "host/RPoly.h"
+#include "host/Units.h"
+
+// Records
+#include "records/Accelerogram.h"
+
+// Clipping
+#include "draw/clip/Clip.h"
