@@ -69,7 +69,7 @@ void CurveBase::Serialize(CArchive& ar) {
     YUnit = yUnit;
     CheckCount(ar, n, 2 * sizeof(double));
     RPoint2DColl points;
-    points.IncreaseStruct(static_cast<int>(n));
+    points.Reserve(static_cast<int>(n));
     for (DWORD i = 0; i < n; ++i) {
         double x = 0.0;
         double y = 0.0;

@@ -1,5 +1,7 @@
 #include "host/PCurve.h"
 
+#include "host/Interpolate.h"
+
 #include <algorithm>
 
 CRuntimeClass PCurve::classPCurve{"PCurve", sizeof(PCurve), 0, &seisplot::CreateObjectOf<PCurve>,
@@ -15,7 +17,7 @@ CRuntimeClass* PMCurve::GetRuntimeClass() const {
 }
 
 PCurve::PCurve(int n, const double* x, const double* y) {
-    m_points.IncreaseStruct(n);
+    m_points.Reserve(n);
     for (int i = 0; i < n; ++i) {
         m_points.AddPoint(x[i], y[i]);
     }
@@ -23,7 +25,7 @@ PCurve::PCurve(int n, const double* x, const double* y) {
 
 PCurve::PCurve(const CVector& x, const CVector& y) {
     const int n = std::min(x.GetDim(), y.GetDim());
-    m_points.IncreaseStruct(n);
+    m_points.Reserve(n);
     for (int i = 0; i < n; ++i) {
         m_points.AddPoint(x[i], y[i]);
     }
@@ -35,39 +37,7 @@ double PCurve::GetY(double x) const {
 }
 
 double PCurve::GetY(double x, int* hint) const {
-    const int n = GetNP();
-    if (n == 0) {
-        return 0.0;
-    }
     const RPoint2DColl& p = m_points;
-    if (n == 1 || x <= p[0].GetX()) {
-        *hint = 0;
-        return p[0].GetY();
-    }
-    if (x >= p[n - 1].GetX()) {
-        *hint = n - 2;
-        return p[n - 1].GetY();
-    }
-    int k = std::clamp(*hint, 0, n - 2);
-    if (x < p[k].GetX()) {
-        // A step back: find the segment again from the start, by halving.
-        int low = 0;
-        int high = k;
-        while (high - low > 1) {
-            const int mid = low + (high - low) / 2;
-            (p[mid].GetX() <= x ? low : high) = mid;
-        }
-        k = low;
-    }
-    while (p[k + 1].GetX() < x) {
-        ++k;
-    }
-    *hint = k;
-    const double x0 = p[k].GetX();
-    const double x1 = p[k + 1].GetX();
-    const double y0 = p[k].GetY();
-    if (x1 == x0) {
-        return y0;
-    }
-    return y0 + (x - x0) * (p[k + 1].GetY() - y0) / (x1 - x0);
+    return seisplot::InterpolateAt(
+        GetNP(), [&](int i) { return p[i].GetX(); }, [&](int i) { return p[i].GetY(); }, x, *hint);
 }

@@ -1,5 +1,7 @@
 #include "host/RPoint2DColl.h"
 
+#include <algorithm>
+
 RPoint2D* RPoint2DColl::GetP(int i) {
     return (i >= 1 && i <= GetPointNum()) ? &m_points[static_cast<size_t>(i - 1)] : nullptr;
 }
@@ -14,6 +16,10 @@ RPoint2D RPoint2DColl::GetPoint(int i) const {
 }
 
 void RPoint2DColl::IncreaseStruct(int n) {
+    m_points.resize(static_cast<size_t>(std::max(n, 0)));
+}
+
+void RPoint2DColl::Reserve(int n) {
     if (n > 0) {
         m_points.reserve(static_cast<size_t>(n));
     }

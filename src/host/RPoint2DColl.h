@@ -18,8 +18,11 @@ public:
     const RPoint2D& operator[](int i) const { return m_points[static_cast<size_t>(i)]; }
     std::span<const RPoint2D> Points() const { return m_points; }
 
-    // Makes room for n points without changing the count.
+    // Sizes the collection to exactly n points: points beyond n are dropped, new ones are at
+    // the origin.
     void IncreaseStruct(int n);
+    // Makes room for n points without changing the count.
+    void Reserve(int n);
     void Add(const RPoint2D& point) { m_points.push_back(point); }
     void AddPoint(double x, double y) { m_points.emplace_back(x, y); }
     // Removes point i (from 1); nothing happens when there is none.

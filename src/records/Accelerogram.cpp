@@ -24,6 +24,13 @@ void Accelerogram::SetRecordUnits() {
     Record.YUnit = kAccelerationKind;
 }
 
+void Accelerogram::PrepareImport() {
+    Record.Clear();
+    SetRecordUnits();
+    Record.XName = "t";
+    Record.YName = "a";
+}
+
 Accelerogram::Accelerogram() {
     SetRecordUnits();
 }

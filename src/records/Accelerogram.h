@@ -6,6 +6,7 @@
 #include "host/CSelObject.h"
 #include "host/CVector.h"
 #include "host/PCurve.h"
+#include "host/Units.h"
 #include "platform/core/COleDateTime.h"
 
 class Accelerogram : public CSelObject {
@@ -39,6 +40,41 @@ public:
     // the last point is above the threshold. A record without points gives time 0, number 0.
     // Returns 0.
     int GetTailStart(double threshold, double* time, int* point);
+
+    // Import. Each returns 0 on success and 1 on failure, after showing the failure to the
+    // user; quiet = 0 also shows the summary line of a successful import. `name` is stored
+    // as the identifier, `path` is the file opened.
+    //
+    // Lets the user pick a file and reads it by its extension.
+    int ReadFromFile(int quiet);
+    // A two-column file (time, acceleration per line): asks for its units first, or reads it
+    // in the units given.
+    int ReadTXTPLT(int quiet, CString name, CString path);
+    int ReadTXTPLT(int quiet, CString name, CString path, Units& units);
+    // An ITACA ASCII file (.ASC, .RA, .TR, .UP, .SEW, .SNS).
+    int ReadASC(int quiet, CString name, CString path);
+
+    // Oscillator response and spectra (times in s, accelerations in mm/s², spectral
+    // accelerations in g, displacements in mm).
+    //
+    // Response of an oscillator of mass m, period T and damping ratio xi to the ground
+    // acceleration `acc`, over n steps of h by rule 2 (trapezoid) or 3 (Simpson): `resp` gets
+    // the origin and then (t, u) for every step, *umax the peak |u|. Returns 1 for m = 0
+    // (nothing touched) or another rule (resp then cleared to n + 1 points at the origin).
+    int DuhamelSimple(double m, double T, double xi, PCurve& acc, PCurve& resp, double h, int n,
+                      int rule, double* umax);
+    // Spectra over the periods dT, 2·dT, ... up to Tmax (accumulated by addition). They return
+    // 1 and leave `out` untouched for xi = 0 or xi >= 1, a step dT <= 0, or a record of fewer
+    // than two points or without duration; GetADSpectrum then returns 0 with an empty curve.
+    int GetAccSpectrum(double xi, double Tmax, double dT, PCurve& out);
+    // Spectral acceleration in g at period T (the PGA at T = 0); 1 as above or for T < 0.
+    int GetAccSpectrum(double xi, double T, double* sa);
+    int GetDisSpectrum(double xi, double Tmax, double dT, PCurve& out);
+    int GetADSpectrum(double xi, double Tmax, double dT, PMCurve& out);
+
+    // This record becomes the component along `angle` (degrees from west-east) of the
+    // horizontal components ax and ay (either may be null). 0, or 1 after a message.
+    int Convert(Accelerogram* ax, Accelerogram* ay, double angle);
 
     PCurve Record;
     double Mw = 0.0;
@@ -76,4 +112,6 @@ public:
 
 private:
     void SetRecordUnits();
+    // Empties the record curve and gives it the unit kinds and axis names of an import.
+    void PrepareImport();
 };

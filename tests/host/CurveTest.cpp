@@ -73,6 +73,12 @@ TEST(CurveTest, ExtremesAndPointAccess) {
     EXPECT_EQ(c.GetMaxY(), 30.0);
     EXPECT_EQ(c.GetPoint(2).GetY(), 10.0); // from 1
     EXPECT_EQ(c[2].GetY(), 30.0);          // from 0
+    // Sizing keeps the leading points and adds points at the origin.
+    c.GetPColl().IncreaseStruct(6);
+    EXPECT_EQ(c.GetNP(), 6);
+    EXPECT_EQ(c[3].GetY(), -10.0);
+    EXPECT_EQ(c[5].GetX(), 0.0);
+    c.GetPColl().IncreaseStruct(4);
     c.RemovePoint(1);
     EXPECT_EQ(c.GetNP(), 3);
     EXPECT_EQ(c.GetPoint(1).GetX(), 1.0);

@@ -34,8 +34,10 @@ INT_PTR CFileDialog::DoModal() {
     if (!m_request.multiSelect) {
         m_paths.resize(1);
     }
-    // A typed name without an extension gets the default one ("*.acc" means "acc").
-    CString extension = m_request.defaultExtension;
+    // A typed name without an extension gets the default one: the first of a list such as
+    // "*.txt; *.plt", without its "*.".
+    CString extension = m_request.defaultExtension.SpanExcluding(";");
+    extension.Trim();
     extension.TrimLeft("*.");
     if (!extension.IsEmpty()) {
         for (CString& path : m_paths) {
