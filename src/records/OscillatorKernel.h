@@ -13,14 +13,12 @@ class PCurve;
 
 namespace seisplot {
 
-// A record as two arrays, for lookups without the curve's per-point overhead.
+// A record as flat arrays, for lookups without the curve's per-point overhead.
 struct FlatRecord {
     explicit FlatRecord(const PCurve& curve);
     std::vector<double> t;
     std::vector<double> a;
-
-    // The ordinate at x, found and interpolated exactly as PCurve::GetY does.
-    double At(double x, int& hint) const;
+    std::vector<double> slope; // of each segment, 0 where two samples share a time
 };
 
 struct OscillatorSteps {

@@ -1,4 +1,5 @@
 #include "records/Accelerogram.h"
+#include "support/PlainDuhamel.h"
 
 #include <gtest/gtest.h>
 
@@ -62,38 +63,6 @@ double PiecewiseLinearPeak(const Accelerogram& r, double T, double xi, int steps
         v = A1 * u + B1 * v + C1 * p0 + D1 * p1;
         u = un;
         peak = std::max(peak, std::fabs(u));
-    }
-    return peak;
-}
-
-// The integral written out plainly: sine and cosine of the phase at every step and the
-// record searched from its start for every lookup.
-double PlainPeak(const Accelerogram& r, double T, double xi, double h, int n) {
-    const double twoPi = 4.0 * std::asin(1.0);
-    const double wn = twoPi / T;
-    const double wd = wn * std::sqrt(1.0 - xi * xi);
-    const double F = h / 3 / wd;
-    const double E = std::exp(-xi * wn * h);
-    const double E2 = std::exp(-2.0 * xi * wn * h);
-    std::vector<double> a(static_cast<size_t>(n) + 1, 0.0), c(a.size(), 1.0), s(a.size(), 0.0),
-        A(a.size(), 0.0), B(a.size(), 0.0);
-    double t = 0.0;
-    double theta = 0.0;
-    double peak = 0.0;
-    for (size_t i = 1; i <= static_cast<size_t>(n); ++i) {
-        t += h;
-        theta += wd * h;
-        if (theta > twoPi) {
-            theta -= twoPi;
-        }
-        c[i] = std::cos(theta);
-        s[i] = std::sin(theta);
-        a[i] = r.Record.GetY(t);
-        const double a2c = i >= 2 ? A[i - 2] + a[i - 2] * c[i - 2] : 0.0;
-        const double a2s = i >= 2 ? B[i - 2] + a[i - 2] * s[i - 2] : 0.0;
-        A[i] = a2c * E2 + 4.0 * E * a[i - 1] * c[i - 1] + a[i] * c[i];
-        B[i] = a2s * E2 + 4.0 * E * a[i - 1] * s[i - 1] + a[i] * s[i];
-        peak = std::max(peak, std::fabs(F * (A[i] * s[i] - B[i] * c[i])));
     }
     return peak;
 }
@@ -211,10 +180,7 @@ TEST(OscillatorTest, FastPathMatchesThePlainIntegral) {
     for (double T : {0.02, 0.13, 0.7, 2.9}) {
         double sa = 0.0;
         ASSERT_EQ(r.GetAccSpectrum(0.05, T, &sa), 0);
-        const double h = std::min(0.01, T / 100.0);
-        const int n = static_cast<int>((15.0 - h) / h);
-        const double w = 4.0 * std::asin(1.0) / T;
-        const double plain = std::fabs(w * w * PlainPeak(r, T, 0.05, h, n)) / 9810.0;
+        const double plain = seisplot::test::PlainSa(r, T, 0.05);
         EXPECT_NEAR(sa, plain, 1e-12 * plain) << T;
     }
 }
