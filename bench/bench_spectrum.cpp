@@ -88,8 +88,8 @@ void SinglePeriod(benchmark::State& state) {
         benchmark::DoNotOptimize(sa);
     }
     state.SetLabel(plain ? "plain" : "fast");
-    state.counters["steps_per_second"] = benchmark::Counter(
-        StepsOf(r, 0.02, 0.02), benchmark::Counter::kIsIterationInvariantRate);
+    state.counters["steps_per_second"] =
+        benchmark::Counter(StepsOf(r, 0.02, 0.02), benchmark::Counter::kIsIterationInvariantRate);
 }
 BENCHMARK(SinglePeriod)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
