@@ -33,6 +33,13 @@
 
 // Records
 #include "records/Accelerogram.h"
+#include "records/RecordReport.h"
+#include "records/Sinusoids.h"
+
+// Spectra
+#include "spectra/Spectrum.h"
+#include "spectra/Envelope.h"
+#include "spectra/SpectrumColl.h"
 
 // Clipping
 #include "draw/clip/Clip.h"

@@ -15,9 +15,9 @@
 // exactly that form, with nothing before or after it.
 
 #include "records/Accelerogram.h"
+#include "records/ObjectArray.h"
 
 #include <cstdint>
-#include <vector>
 
 class CProgressCtrl;
 
@@ -47,9 +47,7 @@ public:
     void AssertValid() const override;
     void Dump(CDumpContext& dc) const override;
 
-    unsigned long GetAccelerogramNum() const {
-        return static_cast<unsigned long>(m_records.size());
-    }
+    unsigned long GetAccelerogramNum() const { return m_records.Count(); }
     // The records as one array; null when the collection is empty. The array moves whenever a
     // record is added or removed.
     Accelerogram* GetPAccelerograms() const;
@@ -112,6 +110,6 @@ public:
     static CRuntimeClass classAccelerogramColl;
 
 private:
-    std::vector<Accelerogram> m_records;
+    seisplot::ObjectArray<Accelerogram> m_records;
     WORD m_version = 1;
 };
