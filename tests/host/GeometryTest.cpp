@@ -37,23 +37,6 @@ TEST(IntersectTest, CrossingTouchingAndAdjacentSides) {
     EXPECT_EQ(Intersect(P(0, 0), P(2, 0), P(2, 0), P(0, 0)), 1);
 }
 
-TEST(IntersectTest, SquareEnteredCrosswiseIsCaughtByItsSides) {
-    // Every pair of sides of (0,0) (1,1) (1,0) (0,1): sides 1 and 3 cross.
-    const RPoint2D crosswise[] = {P(0, 0), P(1, 1), P(1, 0), P(0, 1)};
-    const RPoint2D square[] = {P(0, 0), P(1, 0), P(1, 1), P(0, 1)};
-    const auto crossings = [](const RPoint2D* v) {
-        int count = 0;
-        for (int i = 0; i < 4; ++i) {
-            for (int j = i + 1; j < 4; ++j) {
-                count += Intersect(v[i], v[(i + 1) % 4], v[j], v[(j + 1) % 4]) == 1;
-            }
-        }
-        return count;
-    };
-    EXPECT_EQ(crossings(crosswise), 1);
-    EXPECT_EQ(crossings(square), 0);
-}
-
 TEST(GeometryTest, BoxesKeepTheirCornersInOrder) {
     const r2box box(5.0, -1.0, 2.0, 3.0);
     EXPECT_EQ(box.xmin, 2.0);

@@ -4,28 +4,18 @@
 
 #include <gtest/gtest.h>
 
-using seisplot::test::Bytes;
-using seisplot::test::LoadObject;
-using seisplot::test::StoreObject;
+using namespace seisplot::test;
 
 TEST(SelectionTest, FlagsOfEveryViewAreIndependent) {
     CSelObject object;
     // Views on both sides of the 64-view boundary of the compact store, and the largest.
-    const unsigned short views[] = {0, 1, 63, 64, 65, 1000, 65535};
-    for (unsigned short v : views) {
-        EXPECT_EQ(object.IsSelected(v), 0) << v;
-    }
     object.Select(63);
     object.Select(64);
     object.Select(65535);
     object.Select(64); // selecting twice keeps one flag
-    EXPECT_NE(object.IsSelected(63), 0);
-    EXPECT_NE(object.IsSelected(64), 0);
-    EXPECT_NE(object.IsSelected(65535), 0);
-    EXPECT_EQ(object.IsSelected(62), 0);
-    EXPECT_EQ(object.IsSelected(65), 0);
-    EXPECT_EQ(object.IsSelected(65534), 0);
-
+    for (unsigned short v : {0, 1, 62, 63, 64, 65, 1000, 65534, 65535}) {
+        EXPECT_EQ(object.IsSelected(v) != 0, v == 63 || v == 64 || v == 65535) << v;
+    }
     object.Unselect(64);
     EXPECT_EQ(object.IsSelected(64), 0);
     EXPECT_NE(object.IsSelected(65535), 0);
@@ -64,13 +54,9 @@ TEST(SelectionTest, AssignmentCopiesNameAndFlagsAndReturnsACopy) {
     CSelObject b;
     b.Select(9);
     CSelObject returned = (b = a);
-    EXPECT_EQ(b.GetName(), "first");
-    EXPECT_NE(b.IsSelected(3), 0);
-    EXPECT_EQ(b.IsSelected(9), 0);
     returned.SetName("changed");
-    EXPECT_EQ(b.GetName(), "first");
     b = b;
-    EXPECT_EQ(b.GetName(), "first");
+    EXPECT_EQ(StoreObject(b), StoreObject(a));
 }
 
 TEST(SelectionTest, RunTimeClassesCreateObjectsByName) {

@@ -1,5 +1,6 @@
 #include "platform/core/ScriptedUserInterface.h"
 #include "records/Accelerogram.h"
+#include "support/SampledRecord.h"
 
 #include <gtest/gtest.h>
 
@@ -8,19 +9,15 @@
 namespace {
 
 Accelerogram Component(const char* id, double angle, int n, double dt, double scale) {
-    std::vector<double> t(static_cast<size_t>(n));
-    std::vector<double> a(static_cast<size_t>(n));
-    for (int i = 0; i < n; ++i) {
-        t[static_cast<size_t>(i)] = i * dt;
-        a[static_cast<size_t>(i)] = scale * std::sin(0.37 * i) + 0.1 * i;
-    }
-    Accelerogram r(n, t.data(), a.data());
+    Accelerogram r = seisplot::test::SampledRecord(n, dt, [scale, i = 0](double) mutable {
+        const int k = i++;
+        return scale * std::sin(0.37 * k) + 0.1 * k;
+    });
     r.Identifier = id;
     r.FileIdentifier = CString(id) + ".ASC";
     r.AngleWE = angle;
     r.Mw = 6.0;
     r.EventId = "EV";
-    r.Backazimuth = 10.0;
     return r;
 }
 
@@ -65,17 +62,18 @@ TEST_F(RotationTest, PairRotatesToAnyDirection) {
 
 TEST_F(RotationTest, SingleComponentIsProjected) {
     Accelerogram y = Component("HNN", 90.0, 300, 0.01, 50.0);
+    const double y123 = y.Record[123].GetY();
     Accelerogram out;
     ASSERT_EQ(out.Convert(nullptr, &y, 90.0), 0);
     ASSERT_EQ(out.Record.GetNP(), 300);
-    EXPECT_EQ(out.Record[123].GetY(), y.Record[123].GetY());
+    EXPECT_EQ(out.Record[123].GetY(), y123);
     EXPECT_EQ(out.Identifier, "HNN\"converted\"");
     EXPECT_EQ(out.FileIdentifier, "HNN.ASC\"converted\"");
     ASSERT_EQ(out.Convert(nullptr, &y, 150.0), 0); // cos 60° = 0.5
-    EXPECT_NEAR(out.Record[123].GetY(), 0.5 * y.Record[123].GetY(), 1e-12);
+    EXPECT_NEAR(out.Record[123].GetY(), 0.5 * y123, 1e-12);
     // The record rotating itself reads its own values before overwriting them.
     ASSERT_EQ(y.Convert(&y, nullptr, 270.0), 0);
-    EXPECT_NEAR(y.Record[123].GetY(), -Component("", 0, 300, 0.01, 50.0).Record[123].GetY(), 1e-9);
+    EXPECT_NEAR(y.Record[123].GetY(), -y123, 1e-9);
 }
 
 TEST_F(RotationTest, ChecksComeInOrderWithTheirMessages) {

@@ -1,6 +1,6 @@
-#include "platform/core/CProgressCtrl.h"
 #include "records/AccelerogramColl.h"
 #include "records/Sinusoids.h"
+#include "support/ProgressRecorder.h"
 
 #include <gtest/gtest.h>
 
@@ -8,36 +8,15 @@
 #include <numbers>
 #include <vector>
 
-namespace {
-
-// Keeps every state the bar passes through.
-class ProgressRecorder : public CProgressCtrl {
-public:
-    struct State {
-        int lower;
-        int upper;
-        int position;
-    };
-    std::vector<State> states;
-
-protected:
-    void Changed() override {
-        State s{};
-        GetRange(s.lower, s.upper);
-        s.position = GetPos();
-        states.push_back(s);
-    }
-};
-
-} // namespace
+using seisplot::test::ProgressRecorder;
 
 TEST(SinusoidTest, DefaultSeriesIsAppendedWithNamesAndSamples) {
     AccelerogramColl records;
     Accelerogram existing;
     existing.Identifier = "kept";
     records.AddAccelerogram(existing);
-
-    GenerateSinusoids(100, 0.025, 10, 100, 0.2, records, nullptr);
+    ProgressRecorder progress;
+    GenerateSinusoids(100, 0.025, 10, 100, 0.2, records, &progress);
     ASSERT_EQ(records.GetAccelerogramNum(), 101UL);
     EXPECT_EQ(records.GetP(1)->Identifier, "kept");
 
@@ -50,7 +29,6 @@ TEST(SinusoidTest, DefaultSeriesIsAppendedWithNamesAndSamples) {
     EXPECT_EQ(first.Record.XUnit, 12);
     EXPECT_EQ(first.Record.YUnit, 10);
     EXPECT_EQ(records.GetP(3)->Identifier, "SIN_PGA=   0.200(g)_Period=  0.050(sec)_NPTS=991");
-    EXPECT_EQ(records.GetP(101)->Identifier, "SIN_PGA=   0.200(g)_Period=  2.500(sec)_NPTS=991");
     EXPECT_EQ(records.GetP(101)->Explanation,
               "Sinusoidal accelerogram, PGA   0.200 (g), T=  2.500 (sec)");
 
@@ -62,27 +40,30 @@ TEST(SinusoidTest, DefaultSeriesIsAppendedWithNamesAndSamples) {
     EXPECT_EQ(curve[0].GetY(), 0.0);
     for (int p : {1, 25, 50, 98, 99, 100, 124, 500, 990}) {
         const int j = (p - 1) % 99 + 1; // position within its period
-        const double expected = 1962.0 * std::sin(2.0 * std::numbers::pi * j / 99.0);
-        EXPECT_NEAR(curve[p].GetY(), expected, 1e-9) << "point " << p;
-        EXPECT_NEAR(curve[p].GetX(), p / 99.0, 1e-12) << "point " << p;
+        EXPECT_NEAR(curve[p].GetY(), 1962.0 * std::sin(2.0 * std::numbers::pi * j / 99.0), 1e-9)
+            << p;
+        EXPECT_NEAR(curve[p].GetX(), p / 99.0, 1e-12) << p;
     }
-    EXPECT_NEAR(curve.GetMaxY(), 1962.0 * std::sin(2.0 * std::numbers::pi * 25 / 99.0), 1e-9);
-    EXPECT_NEAR(records.GetP(41)->GetPga(), 0.2, 1e-3);
     EXPECT_NEAR(records.GetP(101)->Record.GetMaxX(), 25.0, 1e-9); // ten periods of 2.5 s
+
+    // The range first, then one step of 1 per record, then back to 0.
+    ASSERT_EQ(progress.states.size(), 102U);
+    EXPECT_EQ(progress.states[0], (ProgressRecorder::State{0, 100, 0}));
+    for (int k = 1; k <= 100; ++k) {
+        EXPECT_EQ(progress.states[static_cast<size_t>(k)], (ProgressRecorder::State{0, 100, k}));
+    }
+    EXPECT_EQ(progress.states.back().position, 0);
 }
 
-TEST(SinusoidTest, FewPointsPerPeriod) {
-    // One point per period: the record is the origin alone.
+TEST(SinusoidTest, FewPointsPerPeriodAndRepeatedSeries) {
+    // One point per period: each record is the origin alone.
     AccelerogramColl single;
     GenerateSinusoids(3, 0.5, 4, 1, 0.1, single, nullptr);
     ASSERT_EQ(single.GetAccelerogramNum(), 3UL);
-    for (unsigned long k = 1; k <= 3; ++k) {
-        const Accelerogram& r = *single.GetP(k);
-        ASSERT_EQ(r.Record.GetNP(), 1);
-        EXPECT_EQ(r.Record[0].GetX(), 0.0);
-        EXPECT_EQ(r.Record[0].GetY(), 0.0);
-    }
-    EXPECT_EQ(single.GetP(1)->Identifier, "SIN_PGA=   0.100(g)_Period=  0.500(sec)_NPTS=1");
+    const PCurve& origin = single.GetP(3)->Record;
+    ASSERT_EQ(origin.GetNP(), 1);
+    EXPECT_EQ(origin[0].GetX(), 0.0);
+    EXPECT_EQ(origin[0].GetY(), 0.0);
     EXPECT_EQ(single.GetP(3)->Identifier, "SIN_PGA=   0.100(g)_Period=  1.500(sec)_NPTS=1");
 
     // Two points per period: one sample at each period's end, where the sine vanishes.
@@ -92,42 +73,20 @@ TEST(SinusoidTest, FewPointsPerPeriod) {
     EXPECT_EQ(pairs.GetP(2)->Identifier, "SIN_PGA=   1.500(g)_Period=  0.800(sec)_NPTS=6");
     for (unsigned long k = 1; k <= 2; ++k) {
         const PCurve& c = pairs.GetP(k)->Record;
-        const double T = 0.4 * static_cast<double>(k);
         ASSERT_EQ(c.GetNP(), 6);
-        EXPECT_EQ(c[0].GetX(), 0.0);
-        EXPECT_EQ(c[0].GetY(), 0.0);
-        for (int i = 1; i <= 5; ++i) {
-            EXPECT_NEAR(c[i].GetX(), i * T, 1e-12);
+        for (int i = 0; i <= 5; ++i) {
+            EXPECT_NEAR(c[i].GetX(), i * 0.4 * static_cast<double>(k), 1e-12);
             EXPECT_NEAR(c[i].GetY(), 0.0, 1e-9);
         }
     }
-}
 
-TEST(SinusoidTest, RepeatedSeriesRepeatNames) {
-    AccelerogramColl records;
-    GenerateSinusoids(4, 0.1, 2, 5, 0.3, records, nullptr);
-    GenerateSinusoids(4, 0.1, 2, 5, 0.3, records, nullptr);
-    ASSERT_EQ(records.GetAccelerogramNum(), 8UL);
+    // A series generated twice repeats its names; a lookup finds the first.
+    AccelerogramColl twice;
+    GenerateSinusoids(4, 0.1, 2, 5, 0.3, twice, nullptr);
+    GenerateSinusoids(4, 0.1, 2, 5, 0.3, twice, nullptr);
+    ASSERT_EQ(twice.GetAccelerogramNum(), 8UL);
     for (unsigned long k = 1; k <= 4; ++k) {
-        EXPECT_EQ(records.GetP(k)->Identifier, records.GetP(k + 4)->Identifier);
+        EXPECT_EQ(twice.GetP(k)->Identifier, twice.GetP(k + 4)->Identifier);
     }
-    EXPECT_EQ(records.FindAccelerogramName("SIN_PGA=   0.300(g)_Period=  0.200(sec)_NPTS=9"), 2UL);
-}
-
-TEST(SinusoidTest, ProgressStepsOncePerRecordAndEndsAtZero) {
-    ProgressRecorder progress;
-    AccelerogramColl records;
-    GenerateSinusoids(7, 0.05, 3, 4, 0.2, records, &progress);
-    ASSERT_EQ(records.GetAccelerogramNum(), 7UL);
-
-    // The range first, then one step of 1 per record, then back to 0.
-    ASSERT_EQ(progress.states.size(), 9U);
-    EXPECT_EQ(progress.states[0].lower, 0);
-    EXPECT_EQ(progress.states[0].upper, 7);
-    for (int k = 1; k <= 7; ++k) {
-        EXPECT_EQ(progress.states[static_cast<size_t>(k)].position, k);
-        EXPECT_EQ(progress.states[static_cast<size_t>(k)].upper, 7);
-    }
-    EXPECT_EQ(progress.states[8].position, 0);
-    EXPECT_EQ(progress.GetPos(), 0);
+    EXPECT_EQ(twice.FindAccelerogramName("SIN_PGA=   0.300(g)_Period=  0.200(sec)_NPTS=9"), 2UL);
 }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -22,62 +23,53 @@ double Ntc(double ag, double xi, int soil, double ST, double F0, double TCs, dou
     return se;
 }
 
-struct Ordinate {
-    int soil;
-    double T;
-    double se;
+// The corner periods of the EC8 soils A to E (S, TB, TC, TD).
+struct Ec8Soil {
+    double S, TB, TC, TD;
+};
+constexpr Ec8Soil kEc8Soils[] = {{1.0, 0.05, 0.25, 1.2},
+                                 {1.35, 0.05, 0.25, 1.2},
+                                 {1.5, 0.1, 0.25, 1.2},
+                                 {1.8, 0.1, 0.3, 1.2},
+                                 {1.6, 0.05, 0.25, 1.2}};
+
+// The NTC soils A to E: SS = a − b·F0·ag within lower ... upper; TC = c·TCs^e·TCs.
+struct NtcSoil {
+    double a, b, lower, upper, c, e;
+};
+constexpr NtcSoil kNtcSoils[] = {{1.0, 0.0, 1.0, 1.0, 1.0, 0.0},
+                                 {1.40, 0.40, 1.0, 1.2, 1.10, -0.20},
+                                 {1.70, 0.60, 1.0, 1.5, 1.05, -0.33},
+                                 {2.40, 1.50, 0.9, 1.8, 1.25, -0.50},
+                                 {2.00, 1.10, 1.0, 1.6, 1.15, -0.40}};
+
+double NtcTC(const NtcSoil& p, double TCs) {
+    return p.c * std::pow(TCs, p.e) * TCs;
+}
+
+// Ordinates of each soil 1 ms before TB, on the plateau (at TB, 1 ms before TC and at TC),
+// 1 ms before TD and at TD; worked out in 50-digit decimal arithmetic.
+struct Corners {
+    double beforeTB, plateau, beforeTD, atTD;
 };
 
-// EC8, ag = 0.3, xi = 0.07 (eta = sqrt(10/12)), ST = 1.2, q = 1; at and 1 ms before each
-// corner period. Worked out in 50-digit decimal arithmetic.
-constexpr Ordinate kEc8Table[] = {
-    {0, 0.049, 0.809533896174831},  {0, 0.05, 0.8215838362577492},   {0, 0.249, 0.8215838362577492},
-    {0, 0.25, 0.8215838362577492},  {0, 1.199, 0.17130605426558573}, {0, 1.2, 0.1711632992203644},
-    {1, 0.049, 1.0928707598360217}, {1, 0.05, 1.1091381789479613},   {1, 0.249, 1.1091381789479613},
-    {1, 0.25, 1.1091381789479613},  {1, 1.199, 0.23126317325854073}, {1, 1.2, 0.23107045394749195},
-    {2, 0.099, 1.223338299324435},  {2, 0.1, 1.2323757543866238},    {2, 0.249, 1.2323757543866238},
-    {2, 0.25, 1.2323757543866238},  {2, 1.199, 0.2569590813983786},  {2, 1.2, 0.2567449488305466},
-    {3, 0.099, 1.468005959189322},  {3, 0.1, 1.4788509052639485},    {3, 0.299, 1.4788509052639485},
-    {3, 0.3, 1.4788509052639485},   {3, 1.199, 0.3700210772136652},  {3, 1.2, 0.3697127263159871},
-    {4, 0.049, 1.2952542338797295}, {4, 0.05, 1.3145341380123987},   {4, 0.249, 1.3145341380123987},
-    {4, 0.25, 1.3145341380123987},  {4, 1.199, 0.2740896868249372},  {4, 1.2, 0.27386127875258304},
+// EC8, ag = 0.3, xi = 0.07 (eta = sqrt(10/12)), ST = 1.2, q = 1.
+constexpr Corners kEc8Ordinates[] = {
+    {0.809533896174831, 0.8215838362577492, 0.17130605426558573, 0.1711632992203644},
+    {1.0928707598360217, 1.1091381789479613, 0.23126317325854073, 0.23107045394749195},
+    {1.223338299324435, 1.2323757543866238, 0.2569590813983786, 0.2567449488305466},
+    {1.468005959189322, 1.4788509052639485, 0.3700210772136652, 0.3697127263159871},
+    {1.2952542338797295, 1.3145341380123987, 0.2740896868249372, 0.27386127875258304},
 };
 
 // NTC, ag = 0.25, F0 = 2.5, TCs = 0.5, ST = 1.2, q = 1.5 (no damping correction), so
-// TD = 2.6 and TC = CC * 0.5 with CC = 1, 1.10 * 0.5^-0.20, 1.05 * 0.5^-0.33, 1.25 * 0.5^-0.50,
-// 1.15 * 0.5^-0.40; SS = 1, 1.15, 1.325, 1.4625, 1.3125 (none clamped). At and 1 ms before
-// each corner period, worked out in 50-digit decimal arithmetic.
-constexpr Ordinate kNtcTable[] = {
-    {0, 0.16566666666666666, 0.4988},
-    {0, 0.16666666666666666, 0.5},
-    {0, 0.499, 0.5},
-    {0, 0.5, 0.5},
-    {0, 2.599, 0.09619084263178146},
-    {0, 2.6, 0.09615384615384616},
-    {1, 0.20959469841612308, 0.5739078547478649},
-    {1, 0.21059469841612308, 0.575},
-    {1, 0.6307840952483692, 0.575},
-    {1, 0.6317840952483692, 0.575},
-    {1, 2.599, 0.1397752423115861},
-    {1, 2.6, 0.13972148260300474},
-    {2, 0.21897734054131995, 0.6612953304674568},
-    {2, 0.21997734054131995, 0.6625},
-    {2, 0.6589320216239599, 0.6625},
-    {2, 0.6599320216239599, 0.6625},
-    {2, 2.599, 0.16822045568521485},
-    {2, 2.6, 0.16815575550995132},
-    {3, 0.2936278254943948, 0.7302572220792141},
-    {3, 0.2946278254943948, 0.73125},
-    {3, 0.8828834764831844, 0.73125},
-    {3, 0.8838834764831844, 0.73125},
-    {3, 2.599, 0.24868787694433575},
-    {3, 2.6, 0.24859222776089562},
-    {4, 0.2519056828981381, 0.6552120636555417},
-    {4, 0.2529056828981381, 0.65625},
-    {4, 0.7577170486944143, 0.65625},
-    {4, 0.7587170486944143, 0.65625},
-    {4, 2.599, 0.19157678461166192},
-    {4, 2.6, 0.19150310123296513},
+// TD = 2.6, TB = TC / 3 and SS = 1, 1.15, 1.325, 1.4625, 1.3125 (none clamped).
+constexpr Corners kNtcOrdinates[] = {
+    {0.4988, 0.5, 0.09619084263178146, 0.09615384615384616},
+    {0.5739078547478649, 0.575, 0.1397752423115861, 0.13972148260300474},
+    {0.6612953304674568, 0.6625, 0.16822045568521485, 0.16815575550995132},
+    {0.7302572220792141, 0.73125, 0.24868787694433575, 0.24859222776089562},
+    {0.6552120636555417, 0.65625, 0.19157678461166192, 0.19150310123296513},
 };
 
 } // namespace
@@ -134,14 +126,23 @@ TEST(CodeSpectraTest, NtcWorkedOrdinates) {
 }
 
 TEST(CodeSpectraTest, OrdinatesAroundEveryCornerOfEverySoil) {
-    for (const Ordinate& row : kEc8Table) {
-        SCOPED_TRACE(testing::Message() << "EC8 soil " << row.soil << " T " << row.T);
-        EXPECT_NEAR(Ec8(0.3, 0.07, row.soil, 1.2, row.T, 1.0), row.se, row.se * kRelative);
-    }
-    for (const Ordinate& row : kNtcTable) {
-        SCOPED_TRACE(testing::Message() << "NTC soil " << row.soil << " T " << row.T);
-        EXPECT_NEAR(Ntc(0.25, 0.05, row.soil, 1.2, 2.5, 0.5, row.T, 1.5), row.se,
-                    row.se * kRelative);
+    const auto expectAround = [](const Corners& c, double TB, double TC, double TD,
+                                 const auto& se) {
+        const std::pair<double, double> points[] = {{TB - 0.001, c.beforeTB}, {TB, c.plateau},
+                                                    {TC - 0.001, c.plateau},  {TC, c.plateau},
+                                                    {TD - 0.001, c.beforeTD}, {TD, c.atTD}};
+        for (const auto& [T, expected] : points) {
+            EXPECT_NEAR(se(T), expected, expected * kRelative) << "T " << T;
+        }
+    };
+    for (int soil = 0; soil < 5; ++soil) {
+        SCOPED_TRACE(testing::Message() << "soil " << soil);
+        const Ec8Soil& e = kEc8Soils[soil];
+        expectAround(kEc8Ordinates[soil], e.TB, e.TC, e.TD,
+                     [&](double T) { return Ec8(0.3, 0.07, soil, 1.2, T, 1.0); });
+        const double TC = NtcTC(kNtcSoils[soil], 0.5);
+        expectAround(kNtcOrdinates[soil], TC / 3.0, TC, 2.6,
+                     [&](double T) { return Ntc(0.25, 0.05, soil, 1.2, 2.5, 0.5, T, 1.5); });
     }
 }
 
@@ -150,20 +151,12 @@ TEST(CodeSpectraTest, OrdinatesAroundEveryCornerOfEverySoil) {
 // corner the result must be the later branch's, to the bit. The branch expressions below are
 // the codes' own, in their order of operations.
 TEST(CodeSpectraTest, CornerPeriodBelongsToTheBranchStartingThere) {
-    struct Ec8Soil {
-        double S, TB, TC, TD;
-    };
-    const Ec8Soil ec8[] = {{1.0, 0.05, 0.25, 1.2},
-                           {1.35, 0.05, 0.25, 1.2},
-                           {1.5, 0.1, 0.25, 1.2},
-                           {1.8, 0.1, 0.3, 1.2},
-                           {1.6, 0.05, 0.25, 1.2}};
     int decided = 0;
     for (double ag : {0.1, 0.15, 0.2, 0.25, 0.3, 0.35}) {
         for (double q : {1.5, 3.0}) {
             for (double ST : {1.0, 1.2, 1.4}) {
                 for (int soil = 0; soil < 5; ++soil) {
-                    const Ec8Soil& p = ec8[soil];
+                    const Ec8Soil& p = kEc8Soils[soil];
                     const double S = p.S * ST;
                     const double rising = ag * S * (0.66666 + (p.TB / p.TB) * (2.5 / q - 0.66666));
                     const double flatAtTB = ag * S * 2.5 / q;
@@ -186,24 +179,16 @@ TEST(CodeSpectraTest, CornerPeriodBelongsToTheBranchStartingThere) {
     // TC * TD / TD^2 round alike for every EC8 soil, so no input decides it.)
     EXPECT_EQ(decided, 112);
 
-    struct NtcSoil {
-        double a, b, lower, upper, c, e;
-    };
-    const NtcSoil ntc[] = {{1.0, 0.0, 1.0, 1.0, 1.0, 0.0},
-                           {1.40, 0.40, 1.0, 1.2, 1.10, -0.20},
-                           {1.70, 0.60, 1.0, 1.5, 1.05, -0.33},
-                           {2.40, 1.50, 0.9, 1.8, 1.25, -0.50},
-                           {2.00, 1.10, 1.0, 1.6, 1.15, -0.40}};
     decided = 0;
     for (double ag : {0.15, 0.2, 0.25, 0.3, 0.35}) {
         for (double F0 : {2.4, 2.6}) {
             for (double TCs : {0.3, 0.4, 0.5}) {
                 for (int soil = 0; soil < 5; ++soil) {
-                    const NtcSoil& p = ntc[soil];
+                    const NtcSoil& p = kNtcSoils[soil];
                     const double q = 1.5;
                     const double ST = 1.2;
                     const double SS = std::fmin(std::fmax(p.a - p.b * F0 * ag, p.lower), p.upper);
-                    const double TC = p.c * std::pow(TCs, p.e) * TCs;
+                    const double TC = NtcTC(p, TCs);
                     const double TB = TC / 3.0;
                     const double TD = 4.0 * ag + 1.6;
                     const double S = SS * ST;
@@ -241,10 +226,4 @@ TEST(CodeSpectraTest, UnknownSoilClassIsRefusedAndLeavesTheOrdinate) {
         EXPECT_EQ(Spectrum::GetSpettro_NTC(0.25, 0.05, soil, 1.0, 2.5, 0.4, 0.5, 1.0, &se), 1);
         EXPECT_EQ(se, 7.5);
     }
-    // The host calls them on a spectrum as well; they read nothing of it.
-    Spectrum s;
-    s.Damp = 0.5;
-    double se = 0.0;
-    EXPECT_EQ(s.GetSpettro_EC8(0.25, 0.05, 0, 1.0, 0.1, 1.0, &se), 0);
-    EXPECT_EQ(se, 0.625);
 }

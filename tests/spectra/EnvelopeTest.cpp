@@ -1,9 +1,14 @@
 #include "spectra/Envelope.h"
 #include "platform/core/ScriptedUserInterface.h"
+#include "support/ArchiveBytes.h"
+#include "support/SampledRecord.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <vector>
+
+using seisplot::test::StoreObject;
 
 namespace {
 
@@ -11,15 +16,10 @@ const double kPi = 2.0 * std::asin(1.0);
 
 // A horizontal or vertical record of 10 s at 100 Hz: a decaying mix of two tones.
 Accelerogram Record(const char* file, const char* event, double angle, int vertical, double scale) {
-    const int n = 1001;
-    std::vector<double> t(n);
-    std::vector<double> a(n);
-    for (int i = 0; i < n; ++i) {
-        t[i] = i * 0.01;
-        a[i] = scale * std::exp(-0.3 * t[i]) *
-               (std::sin(2 * kPi * 1.7 * t[i]) + 0.5 * std::sin(2 * kPi * 4.1 * t[i] + angle));
-    }
-    Accelerogram r(n, t.data(), a.data());
+    Accelerogram r = seisplot::test::SampledRecord(1001, 0.01, [=](double t) {
+        return scale * std::exp(-0.3 * t) *
+               (std::sin(2 * kPi * 1.7 * t) + 0.5 * std::sin(2 * kPi * 4.1 * t + angle));
+    });
     r.FileIdentifier = file;
     r.Identifier = file;
     r.EventId = event;
@@ -47,6 +47,11 @@ struct Scenario {
                                        threads);
     }
     std::vector<CString> Messages() const { return ui.MessageTexts(); }
+    void Grid(double maxPeriod, double step) {
+        criteria.PeriodSource = 1;
+        criteria.MaxPeriod = maxPeriod;
+        criteria.PeriodStep = step;
+    }
 };
 
 class Recorder : public EnvelopeProgress {
@@ -75,24 +80,28 @@ TEST(EnvelopeTest, RunTitleKeepsItsFieldWidths) {
     EXPECT_EQ(EnvelopeRunTitle(c), "Generic - Envelope 100.000 percentile - Damping  0.000");
 }
 
-TEST(EnvelopeTest, CompleteEnvelopeOverARegularGrid) {
+TEST(EnvelopeTest, CompleteEnvelopeOverARegularGridOnAnyNumberOfThreads) {
+    const auto setUp = [](Scenario& r) {
+        r.Add(Record("a", "E1", 0.0, 0, 1000.0));
+        r.Add(Record("b", "E2", 0.0, 0, 3000.0), false);
+        r.Add(Record("c", "E3", 0.0, 0, 2000.0));
+        r.Grid(1.0, 0.25);
+    };
     Scenario run;
-    run.Add(Record("a", "E1", 0.0, 0, 1000.0));
-    run.Add(Record("b", "E2", 0.0, 0, 3000.0), false);
-    run.Add(Record("c", "E3", 0.0, 0, 2000.0));
-    run.criteria.PeriodSource = 1;
-    run.criteria.MaxPeriod = 1.0;
-    run.criteria.PeriodStep = 0.25;
+    setUp(run);
     Recorder progress;
-    ASSERT_EQ(run.Go(&progress), EnvelopeOutcome::Added);
+    ASSERT_EQ(run.Go(&progress, 4), EnvelopeOutcome::Added);
+    EXPECT_EQ(run.Messages(), std::vector<CString>{"OK!"});
     ASSERT_EQ(run.spectra.GetSpectrumNum(), 1u);
     Spectrum& s = *run.spectra.GetP(1);
     EXPECT_EQ(s.GetName(), "Generic - Complete Envelope - Damping  0.050");
     EXPECT_EQ(s.GetType(), 2);
     EXPECT_EQ(s.GetDamp(), 0.05);
-    EXPECT_EQ(s.Curve.GetName(), "Envelope Spectrum (2 signals)");
-    EXPECT_EQ(s.Curve.XName, "Period T (sec)");
-    EXPECT_EQ(s.Curve.YName, "Se,a(T) [g]");
+    EXPECT_EQ(
+        (std::vector<CString>{s.Curve.GetName(), s.Curve.XName, s.Curve.YName, run.track.GetName(),
+                              run.track.XName, run.track.YName}),
+        (std::vector<CString>{"Envelope Spectrum (2 signals)", "Period T (sec)", "Se,a(T) [g]",
+                              "Track of signals", "T (sec)", "Accelerogram #"}));
     EXPECT_EQ(s.Curve.XUnit, 12);
     EXPECT_EQ(s.Curve.YUnit, 9);
     ASSERT_EQ(s.Curve.GetNP(), 5); // 0, 0.25, 0.5, 0.75, 1.0
@@ -107,10 +116,12 @@ TEST(EnvelopeTest, CompleteEnvelopeOverARegularGrid) {
         EXPECT_EQ(s.Curve[j].GetY(), expected) << T; // c is twice a: always the larger
         EXPECT_EQ(run.track[j].GetY(), 3.0);         // its record number
     }
-    EXPECT_EQ(run.track.GetName(), "Track of signals");
-    EXPECT_EQ(run.track.XName, "T (sec)");
-    EXPECT_EQ(run.track.YName, "Accelerogram #");
-    EXPECT_EQ(run.Messages(), std::vector<CString>{"OK!"});
+    // One thread gives the same spectrum and track.
+    Scenario oneThread;
+    setUp(oneThread);
+    ASSERT_EQ(oneThread.Go(nullptr, 1), EnvelopeOutcome::Added);
+    EXPECT_EQ(StoreObject(s), StoreObject(*oneThread.spectra.GetP(1)));
+    EXPECT_EQ(StoreObject(run.track), StoreObject(oneThread.track));
     int lower = -1;
     int upper = -1;
     progress.GetRange(lower, upper);
@@ -119,35 +130,11 @@ TEST(EnvelopeTest, CompleteEnvelopeOverARegularGrid) {
     EXPECT_GE(progress.steps, 5 + 3); // range, step position, five steps, final position
 }
 
-TEST(EnvelopeTest, ThreadsDoNotChangeTheResult) {
-    Scenario one;
-    Scenario many;
-    for (Scenario* run : {&one, &many}) {
-        for (int i = 0; i < 5; ++i) {
-            run->Add(Record("r", "E", 0.3 * i, 0, 500.0 + 300.0 * i * (i % 2 ? -1 : 1)));
-        }
-        run->criteria.PeriodSource = 1;
-        run->criteria.MaxPeriod = 2.0;
-        run->criteria.PeriodStep = 0.1;
-        run->criteria.Statistic = 1;
-        run->criteria.Percentile = 70.0;
-    }
-    ASSERT_EQ(one.Go(nullptr, 1), EnvelopeOutcome::Added);
-    ASSERT_EQ(many.Go(nullptr, 4), EnvelopeOutcome::Added);
-    const PCurve& a = one.spectra.GetP(1)->Curve;
-    const PCurve& b = many.spectra.GetP(1)->Curve;
-    ASSERT_EQ(a.GetNP(), 21);
-    ASSERT_EQ(b.GetNP(), 21);
-    for (int j = 0; j < 21; ++j) {
-        EXPECT_EQ(a[j].GetY(), b[j].GetY()) << j;
-    }
-    EXPECT_EQ(one.track.GetNP(), 0); // a percentile run leaves no track
-}
-
 TEST(EnvelopeTest, PercentileRankAndTrackTies) {
-    // Five records whose PGAs are 0.1 ... 0.5 g; the grid is T = 0 alone (no mode checked),
-    // so the values are the PGAs.
-    const auto pgas = [](double percentile, int count) {
+    // K records whose PGAs are 0.1 ... K/10 g; the grid is T = 0 alone (no mode checked), so
+    // the values are the PGAs. The rank from the top is r = trunc((K + 1) − K·P/100):
+    // K = 20, P = 95 → 2; K = 10, P = 95 → 1; K = 10, P = 50 → 6.
+    const auto tenthsOfG = [](double percentile, int count) {
         Scenario run;
         for (int i = 1; i <= count; ++i) {
             double t[] = {0.0, 0.01};
@@ -159,12 +146,11 @@ TEST(EnvelopeTest, PercentileRankAndTrackTies) {
         EXPECT_EQ(run.Go(), EnvelopeOutcome::Added);
         return run.spectra.GetP(1)->Curve[0].GetY() * 10.0;
     };
-    // r = trunc((K + 1) − K·P/100): K = 20, P = 95 → 2; K = 10, P = 95 → 1; K = 10, P = 50 → 6.
-    EXPECT_NEAR(pgas(95.0, 20), 19.0, 1e-12);
-    EXPECT_NEAR(pgas(95.0, 10), 10.0, 1e-12);
-    EXPECT_NEAR(pgas(50.0, 10), 5.0, 1e-12);
-    EXPECT_NEAR(pgas(100.0, 7), 7.0, 1e-12);
-    EXPECT_NEAR(pgas(50.0, 1), 1.0, 1e-12); // one signal: every percentile is its value
+    EXPECT_NEAR(tenthsOfG(95.0, 20), 19.0, 1e-12);
+    EXPECT_NEAR(tenthsOfG(95.0, 10), 10.0, 1e-12);
+    EXPECT_NEAR(tenthsOfG(50.0, 10), 5.0, 1e-12);
+    EXPECT_NEAR(tenthsOfG(100.0, 7), 7.0, 1e-12);
+    EXPECT_NEAR(tenthsOfG(50.0, 1), 1.0, 1e-12); // one signal: every percentile is its value
 
     // Two signals with the same maximum: the first one names the track point.
     Scenario tie;
@@ -207,79 +193,74 @@ TEST(EnvelopeTest, PairsAreComposedAlongTheDirection) {
 }
 
 TEST(EnvelopeTest, PairingStopsWithItsMessages) {
-    const char* angleMessage =
+    struct In {
+        const char* event;
+        double angle;
+        int vertical = 0;
+    };
+    const CString angle =
         "Error: 2 accelerograms selected having same event id, not Z, with angle difference != 90";
-    const auto pairing = [](std::initializer_list<double> angles, std::vector<CString>& messages,
-                            std::vector<int>& ids) {
+    const CString found = "accelerograms marked with same analysis id, instead of 2. Check "
+                          "accelerograms and proper selections.";
+    const struct {
+        const char* why;
+        std::vector<In> records;   // record k is in file rk.ASC
+        CString message;           // "OK!": the run adds its spectrum
+        std::vector<int> ids = {}; // empty: not looked at
+    } cases[] = {
+        // 90.005° is a right angle for pairing; the rotation itself asks for 0.001° and
+        // refuses.
+        {"pairing's right angle",
+         {{"E1", 0.0}, {"E1", 90.005}},
+         "Error the two accelerograms used as reference must have 90? angle difference",
+         {1, 1}},
+        {"rotation's right angle", {{"E1", 0.0}, {"E1", 90.0005}}, "OK!", {1, 1}},
+        {"no right angle", {{"E1", 0.0}, {"E1", 90.02}}, angle},
+        // Each later record is compared with the first only: −90° joins as well, three in a
+        // pair.
+        {"three in a pair",
+         {{"E1", 0.0}, {"E1", 90.0}, {"E1", -90.0}, {"E9", 0.0}},
+         "Error: found 3 " + found,
+         {1, 1, 1, 2}},
+        {"270 is no right angle", {{"E1", 0.0}, {"E1", 90.0}, {"E1", 270.0}, {"E9", 0.0}}, angle},
+        {"odd count",
+         {{"E", 0.0}},
+         "Error to compose accelerograms the number of selected accelerograms must be even"},
+        // A vertical record is left without a pair number.
+        {"vertical",
+         {{"E", 0.0}, {"E", 90.0}, {"E", 0.0, 1}, {"F", 0.0, 1}},
+         "Error accelerogram r3.ASC is selected but no analysis id assigned. Check selection of "
+         "accelerograms"},
+        // Records of different events never pair: each is a pair of one.
+        {"different events", {{"E1", 0.0}, {"E2", 90.0}}, "Error: found 1 " + found},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.why);
         Scenario run;
-        for (double angle : angles) {
-            run.Add(Record("h.ASC", "E1", angle, 0, 500.0));
-        }
-        if (angles.size() % 2 != 0) {
-            run.Add(Record("other.ASC", "E9", 0.0, 0, 500.0));
+        for (const In& in : c.records) {
+            CString file;
+            file.Format("r%zu.ASC", run.checked.size() + 1);
+            run.Add(Record(file.GetString(), in.event, in.angle, in.vertical, 500.0));
         }
         run.criteria.SignalUse = 1;
-        const EnvelopeOutcome outcome = run.Go();
-        messages = run.Messages();
-        ids.clear();
-        for (unsigned long i = 1; i <= run.records.GetAccelerogramNum(); ++i) {
+        const bool added = c.message == "OK!";
+        EXPECT_EQ(run.Go(), added ? EnvelopeOutcome::Added : EnvelopeOutcome::Stopped);
+        EXPECT_EQ(run.Messages(), std::vector<CString>{c.message});
+        EXPECT_EQ(run.spectra.GetSpectrumNum(), added ? 1u : 0u);
+        EXPECT_EQ(run.records.CountSelected(5), 0u);
+        std::vector<int> ids;
+        for (unsigned long i = 1; i <= run.records.GetAccelerogramNum() && !c.ids.empty(); ++i) {
             ids.push_back(run.records.GetP(i)->AnalysisId);
         }
-        EXPECT_EQ(run.spectra.GetSpectrumNum(), outcome == EnvelopeOutcome::Added ? 1u : 0u);
-        EXPECT_EQ(run.records.CountSelected(5), 0u);
-        return outcome;
-    };
-    std::vector<CString> messages;
-    std::vector<int> ids;
-    // 90.005° is a right angle for pairing; the rotation itself asks for 0.001° and refuses.
-    EXPECT_EQ(pairing({0.0, 90.005}, messages, ids), EnvelopeOutcome::Stopped);
-    EXPECT_EQ(ids, (std::vector<int>{1, 1}));
-    EXPECT_EQ(messages, std::vector<CString>{"Error the two accelerograms used as reference must "
-                                             "have 90? angle difference"});
-    EXPECT_EQ(pairing({0.0, 90.0005}, messages, ids), EnvelopeOutcome::Added);
-    EXPECT_EQ(pairing({0.0, 90.02}, messages, ids), EnvelopeOutcome::Stopped);
-    EXPECT_EQ(messages, std::vector<CString>{angleMessage});
-    // Each later record is compared with the first only: −90° joins as well, three in a pair.
-    EXPECT_EQ(pairing({0.0, 90.0, -90.0}, messages, ids), EnvelopeOutcome::Stopped);
-    EXPECT_EQ(ids, (std::vector<int>{1, 1, 1, 2}));
-    EXPECT_EQ(messages, std::vector<CString>{"Error: found 3 accelerograms marked with same "
-                                             "analysis id, instead of 2. Check accelerograms and "
-                                             "proper selections."});
-    EXPECT_EQ(pairing({0.0, 90.0, 270.0}, messages, ids), EnvelopeOutcome::Stopped);
-    EXPECT_EQ(messages, std::vector<CString>{angleMessage});
-
-    // An odd count of checked records, and a vertical record left without a pair number.
-    Scenario odd;
-    odd.Add(Record("a", "E", 0.0, 0, 1.0));
-    odd.criteria.SignalUse = 1;
-    EXPECT_EQ(odd.Go(), EnvelopeOutcome::Stopped);
-    EXPECT_EQ(odd.Messages(), std::vector<CString>{"Error to compose accelerograms the number of "
-                                                   "selected accelerograms must be even"});
-    Scenario vertical;
-    vertical.Add(Record("e.ASC", "E", 0.0, 0, 1.0));
-    vertical.Add(Record("n.ASC", "E", 90.0, 0, 1.0));
-    vertical.Add(Record("z.ASC", "E", 0.0, 1, 1.0));
-    vertical.Add(Record("w.ASC", "F", 0.0, 1, 1.0));
-    vertical.criteria.SignalUse = 1;
-    EXPECT_EQ(vertical.Go(), EnvelopeOutcome::Stopped);
-    EXPECT_EQ(vertical.Messages(),
-              std::vector<CString>{"Error accelerogram z.ASC is selected but no analysis id "
-                                   "assigned. Check selection of accelerograms"});
-    // Records of different events never pair: each is a pair of one.
-    Scenario apart;
-    apart.Add(Record("a", "E1", 0.0, 0, 1.0));
-    apart.Add(Record("b", "E2", 90.0, 0, 1.0));
-    apart.criteria.SignalUse = 1;
-    EXPECT_EQ(apart.Go(), EnvelopeOutcome::Stopped);
-    EXPECT_EQ(apart.Messages().back().Find("found 1 accelerograms"), 7);
+        EXPECT_EQ(ids, c.ids);
+    }
 }
 
 TEST(EnvelopeTest, GridAndInputChecksComeFirst) {
     Scenario run;
-    run.criteria.PeriodSource = 1;
-    EXPECT_EQ(run.Go(), EnvelopeOutcome::Stopped); // step and maximum 0
-    run.criteria.MaxPeriod = 1.0;
-    run.criteria.PeriodStep = 0.5;
+    run.Grid(0.0, 0.0);
+    EXPECT_EQ(run.Go(), EnvelopeOutcome::Stopped);
+    run.Grid(1.0, 0.5);
     EXPECT_EQ(run.Go(), EnvelopeOutcome::Stopped); // no record
     run.criteria.Damping = 1.0;
     EXPECT_EQ(run.Go(), EnvelopeOutcome::Stopped);
@@ -290,8 +271,7 @@ TEST(EnvelopeTest, GridAndInputChecksComeFirst) {
                                     "of critical)"}));
     // A quotient just below a whole number gives one period fewer: 0.3/0.1 = 2.9999999999999996.
     run.criteria.Damping = 0.0; // computed with 1e-07, recorded as 0
-    run.criteria.MaxPeriod = 0.3;
-    run.criteria.PeriodStep = 0.1;
+    run.Grid(0.3, 0.1);
     run.Add(Record("a", "E", 0.0, 0, 100.0));
     ASSERT_EQ(run.Go(), EnvelopeOutcome::Added);
     const Spectrum& s = *run.spectra.GetP(1);
@@ -307,9 +287,7 @@ TEST(EnvelopeTest, ACancelledRunAddsNothing) {
     for (int i = 0; i < 3; ++i) {
         run.Add(Record("a", "E", 0.0, 0, 100.0));
     }
-    run.criteria.PeriodSource = 1;
-    run.criteria.MaxPeriod = 4.0;
-    run.criteria.PeriodStep = 0.01;
+    run.Grid(4.0, 0.01);
     Recorder progress;
     progress.cancel = true;
     EXPECT_EQ(run.Go(&progress), EnvelopeOutcome::Cancelled);

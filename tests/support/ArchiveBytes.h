@@ -8,7 +8,10 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <fstream>
 #include <functional>
+#include <iterator>
+#include <string>
 #include <vector>
 
 namespace seisplot::test {
@@ -28,6 +31,12 @@ template <class T> Bytes StoreObject(T& object) {
     return Store([&](CArchive& ar) { object.Serialize(ar); });
 }
 
+// The bytes of the file at `path`.
+inline Bytes FileBytes(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    return Bytes(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+}
+
 // Reads `object` from `bytes` and returns how many bytes were left unread.
 template <class T> size_t LoadObject(const Bytes& bytes, T& object) {
     CMemFile file(bytes.data(), static_cast<UINT>(bytes.size()));
@@ -41,6 +50,18 @@ inline int ArchiveCause(const std::function<void()>& action) {
     try {
         action();
     } catch (CArchiveException* e) {
+        const int cause = e->m_cause;
+        e->Delete();
+        return cause;
+    }
+    return -1;
+}
+
+// The file exception cause that `action` raises, or -1 when it raises none.
+inline int FileCause(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (CFileException* e) {
         const int cause = e->m_cause;
         e->Delete();
         return cause;
