@@ -16,6 +16,10 @@ if(SEISPLOT_SANITIZE)
         -fsanitize=${SEISPLOT_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     target_link_options(seisplot_options INTERFACE -fsanitize=${SEISPLOT_SANITIZE})
 endif()
+if(SEISPLOT_FUZZ)
+    # Coverage feedback for libFuzzer from every layer; only the fuzz targets link libFuzzer.
+    target_compile_options(seisplot_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # seisplot_add_layer(<name> SOURCES ... HEADERS ... [DEPENDS ...])
 # Declares the static library seisplot_<name>, aliased seisplot::<name>. Headers are included
