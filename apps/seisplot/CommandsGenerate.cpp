@@ -1,0 +1,102 @@
+// sinusoids and rotate: records made from parameters or from other records.
+
+#include "Archives.h"
+#include "Commands.h"
+#include "ConsoleProgress.h"
+#include "Errors.h"
+
+#include "records/Sinusoids.h"
+
+#include <filesystem>
+#include <iostream>
+
+namespace seisplot::cli {
+
+void RunSinusoids(const SinusoidOptions& options, std::ostream& out) {
+    AccelerogramColl records;
+    if (options.append && std::filesystem::exists(options.output)) {
+        LoadRecordSet(options.output, records);
+    }
+    const unsigned long first = records.GetAccelerogramNum() + 1;
+    {
+        ConsoleProgress progress("sinusoids");
+        GenerateSinusoids(options.count, options.step, options.periods, options.points,
+                          options.amplitude, records, &progress);
+    }
+    SaveRecordSet(options.output, records);
+    out << options.output << ": " << records.GetAccelerogramNum() << " records; added "
+        << options.count << " sinusoidal records " << first << " to "
+        << records.GetAccelerogramNum()
+        << Printf(", periods %.4f s to %.4f s", options.step,
+                  options.step * static_cast<double>(options.count))
+        << '\n';
+}
+
+void RunRotate(const RotateOptions& options, std::ostream& out) {
+    AccelerogramColl records;
+    LoadRecordSet(options.set, records);
+    Accelerogram* x = &RecordAt(records, options.x, options.set);
+    Accelerogram* y = options.y ? &RecordAt(records, *options.y, options.set) : nullptr;
+
+    Accelerogram rotated;
+    if (rotated.Convert(x, y, options.angle) != 0) {
+        Fail("the rotation was refused; " + options.output + " not written");
+    }
+    rotated.SetName(rotated.Identifier);
+    rotated.Explanation.Format("Component along %.3f deg from WE: PGA= %7.3lf  NP= %d",
+                               options.angle, rotated.GetPga(), rotated.Record.GetNP());
+    records.AddAccelerogram(rotated);
+    SaveRecordSet(options.output, records);
+    out << options.output << ": record " << records.GetAccelerogramNum() << " "
+        << rotated.Identifier.GetString() << Printf(", PGA %.4f g", rotated.GetPga()) << '\n';
+}
+
+void AddGenerateCommands(CLI::App& app, Action& action) {
+    auto sinus = std::make_shared<SinusoidOptions>();
+    CLI::App* sinusCommand = app.add_subcommand(
+        "sinusoids", "Add pure sine records of growing period T = k*DT (k = 1 ... count)");
+    sinusCommand->add_option("--count", sinus->count, "Number of records")
+        ->check(CLI::Range(1UL, 10000UL))
+        ->capture_default_str();
+    sinusCommand->add_option("--dt", sinus->step, "Period interval DT (s)")
+        ->check(CLI::Range(1e-8, 10.0))
+        ->capture_default_str();
+    sinusCommand->add_option("--periods", sinus->periods, "Periods per record")
+        ->check(CLI::Range(1UL, 100UL))
+        ->capture_default_str();
+    sinusCommand->add_option("--points", sinus->points, "Points per period")
+        ->check(CLI::Range(1UL, 10000UL))
+        ->capture_default_str();
+    sinusCommand->add_option("--amplitude", sinus->amplitude, "Peak acceleration (g)")
+        ->check(CLI::Range(1e-8, 10.0))
+        ->capture_default_str();
+    sinusCommand->add_option("-o,--output", sinus->output, "Record set to write (*.acc)")
+        ->required();
+    sinusCommand->add_flag("--append", sinus->append,
+                           "Add to the records already in the set (otherwise it is replaced)");
+    SetAction(*sinusCommand, action, sinus,
+              [](const SinusoidOptions& o) { RunSinusoids(o, std::cout); });
+
+    auto rotate = std::make_shared<RotateOptions>();
+    CLI::App* rotateCommand = app.add_subcommand(
+        "rotate", "Append the component along a direction, from one horizontal record or from "
+                  "two at right angles (NX at the smaller AngleWE)");
+    rotateCommand->add_option("SET", rotate->set, "Record set (*.acc)")->required();
+    rotateCommand->add_option("NX", rotate->x, "First record number (from 1)")
+        ->required()
+        ->check(CLI::PositiveNumber);
+    rotateCommand->add_option("NY", rotate->y, "Second record number, 90 degrees from the first")
+        ->check(CLI::PositiveNumber);
+    rotateCommand
+        ->add_option("--angle", rotate->angle,
+                     "Direction of the new component, degrees from WE counter-clockwise")
+        ->required();
+    rotateCommand
+        ->add_option("-o,--output", rotate->output,
+                     "Record set to write: the records of SET and the new one")
+        ->required();
+    SetAction(*rotateCommand, action, rotate,
+              [](const RotateOptions& o) { RunRotate(o, std::cout); });
+}
+
+} // namespace seisplot::cli

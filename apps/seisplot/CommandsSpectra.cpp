@@ -1,0 +1,277 @@
+// spectrum and code: response spectra of a record, and code design spectra.
+
+#include "Archives.h"
+#include "Commands.h"
+#include "Errors.h"
+
+#include "spectra/Spectrum.h"
+
+#include <cctype>
+#include <cmath>
+#include <iostream>
+
+namespace seisplot::cli {
+namespace {
+
+// The dampings asked for: one, or DS, 2·DS, ... up to DMAX.
+std::vector<double> Dampings(const SpectrumOptions& options) {
+    if (!options.dampingMax) {
+        return {options.damping};
+    }
+    const double step = *options.dampingStep;
+    std::vector<double> dampings;
+    for (int k = 1; k * step <= *options.dampingMax * (1.0 + 1e-12); ++k) {
+        dampings.push_back(k * step);
+    }
+    if (dampings.empty()) {
+        BadUsage("--damping-step is larger than --damping-max: no damping to compute");
+    }
+    return dampings;
+}
+
+// The periods 0, dt, 2·dt, ... up to tmax (a period within 1e-9·dt of tmax is included).
+std::vector<double> PeriodGrid(double maxPeriod, double step) {
+    std::vector<double> periods;
+    const auto n = static_cast<long>(std::floor(maxPeriod / step + 1e-9));
+    for (long i = 0; i <= n; ++i) {
+        periods.push_back(static_cast<double>(i) * step);
+    }
+    return periods;
+}
+
+struct Curve {
+    double damping;
+    std::vector<std::pair<double, double>> points;
+};
+
+} // namespace
+
+void RunSpectrum(const SpectrumOptions& options, std::ostream& out) {
+    const std::vector<double> dampings = Dampings(options);
+    AccelerogramColl records;
+    LoadRecordSet(options.set, records);
+    Accelerogram& record = RecordAt(records, options.record, options.set);
+
+    const bool ads = options.kind == "ads";
+    std::vector<Curve> curves;
+    for (double damping : dampings) {
+        Curve curve{damping, {}};
+        int failed = 0;
+        if (ads) {
+            PMCurve result;
+            failed = record.GetADSpectrum(damping, options.maxPeriod, options.periodStep, result);
+            for (int i = 0; i < result.GetNP(); ++i) {
+                curve.points.emplace_back(result[i].GetX(), result[i].GetY() / Accelerogram::kG);
+            }
+        } else {
+            PCurve result;
+            failed =
+                options.kind == "acc"
+                    ? record.GetAccSpectrum(damping, options.maxPeriod, options.periodStep, result)
+                    : record.GetDisSpectrum(damping, options.maxPeriod, options.periodStep, result);
+            for (int i = 0; i < result.GetNP(); ++i) {
+                curve.points.emplace_back(result[i].GetX(), result[i].GetY());
+            }
+        }
+        if (failed != 0 || curve.points.empty()) {
+            Fail("no spectrum for record " + std::to_string(options.record) +
+                 ": it needs at least two points and a duration");
+        }
+        curves.push_back(std::move(curve));
+    }
+
+    const char* heading = ads                     ? "Acceleration-displacement response spectrum"
+                          : options.kind == "acc" ? "Acceleration response spectrum"
+                                                  : "Displacement response spectrum";
+    const char* xKey = ads ? "sd_mm" : "period_s";
+    const char* yKey = ads ? "sa_g" : options.kind == "acc" ? "sa_g" : "sd_mm";
+    if (options.format.Format() == OutputFormat::Json) {
+        JsonValue list = JsonValue::array();
+        for (const Curve& curve : curves) {
+            JsonValue points = JsonValue::array();
+            for (const auto& [x, y] : curve.points) {
+                points.push_back({{xKey, x}, {yKey, y}});
+            }
+            list.push_back({{"damping", curve.damping}, {"points", points}});
+        }
+        PrintJson(out, {{"file", options.set},
+                        {"record", options.record},
+                        {"identifier", record.Identifier.GetString()},
+                        {"kind", options.kind},
+                        {"max_period_s", options.maxPeriod},
+                        {"period_step_s", options.periodStep},
+                        {"curves", list}});
+        return;
+    }
+
+    Table table;
+    size_t rows = 0;
+    if (!ads) {
+        table.AddColumn("T (s)");
+    }
+    for (const Curve& curve : curves) {
+        const std::string damping = Printf(" xi=%.3f", curve.damping);
+        if (ads) {
+            table.AddColumn("Sd (mm)" + damping);
+        }
+        table.AddColumn((options.kind == "dis" ? "Sd (mm)" : "Sa (g)") + damping);
+        rows = std::max(rows, curve.points.size());
+    }
+    for (size_t i = 0; i < rows; ++i) {
+        std::vector<std::string> cells;
+        if (!ads) {
+            cells.push_back(Printf("%.3f", curves.front().points[i].first));
+        }
+        for (const Curve& curve : curves) {
+            const bool has = i < curve.points.size();
+            if (ads) {
+                cells.push_back(has ? Printf("%.3f", curve.points[i].first) : "");
+            }
+            const double y = has ? curve.points[i].second : 0.0;
+            cells.push_back(!has                    ? ""
+                            : options.kind == "dis" ? Printf("%.3f", y)
+                                                    : Printf("%.5f", y));
+        }
+        table.AddRow(std::move(cells));
+    }
+    if (options.format.Format() == OutputFormat::Text) {
+        out << heading << " of record " << options.record << " (" << record.Identifier.GetString()
+            << ")"
+            << Printf(", periods up to %.3f s by %.3f s", options.maxPeriod, options.periodStep)
+            << '\n';
+    }
+    table.Print(out, options.format.Format());
+}
+
+void RunCode(const CodeOptions& options, std::ostream& out) {
+    const bool ntc = options.code == "ntc";
+    if (ntc && (!options.f0 || !options.tcs)) {
+        BadUsage("the NTC spectrum needs --f0 and --tcs");
+    }
+    if (!ntc && (options.f0 || options.tcs)) {
+        BadUsage("--f0 and --tcs belong to the NTC spectrum, not to EC8");
+    }
+    const char soilLetter = static_cast<char>(std::toupper(options.soil.front()));
+    const int soil = soilLetter - 'A';
+
+    std::vector<std::pair<double, double>> points;
+    for (double period : PeriodGrid(options.maxPeriod, options.periodStep)) {
+        double se = 0.0;
+        const int failed =
+            ntc ? Spectrum::GetSpettro_NTC(options.ag, options.xi, soil, options.st, *options.f0,
+                                           *options.tcs, period, options.q, &se)
+                : Spectrum::GetSpettro_EC8(options.ag, options.xi, soil, options.st, period,
+                                           options.q, &se);
+        if (failed != 0) {
+            Fail(std::string("soil class ") + soilLetter + " refused by the code spectrum");
+        }
+        points.emplace_back(period, se);
+    }
+
+    const std::string kind = options.q == 1.0 ? "elastic" : "design";
+    if (options.format.Format() == OutputFormat::Json) {
+        JsonValue list = JsonValue::array();
+        for (const auto& [period, se] : points) {
+            list.push_back({{"period_s", period}, {"se_g", se}});
+        }
+        JsonValue document = {{"code", options.code}, {"kind", kind},
+                              {"ag_g", options.ag},   {"soil", std::string(1, soilLetter)},
+                              {"st", options.st},     {"damping", options.xi},
+                              {"q", options.q},       {"points", list}};
+        if (ntc) {
+            document["f0"] = *options.f0;
+            document["tcs_s"] = *options.tcs;
+        }
+        PrintJson(out, document);
+        return;
+    }
+    if (options.format.Format() == OutputFormat::Text) {
+        out << (ntc ? "NTC " : "EC8 type 2 ") << kind << " spectrum: "
+            << Printf("ag %.4f g, soil %c, ST %.3f, damping %.3f, q %.3f", options.ag, soilLetter,
+                      options.st, options.xi, options.q);
+        if (ntc) {
+            out << Printf(", F0 %.3f, TC* %.3f s", *options.f0, *options.tcs);
+        }
+        out << '\n';
+    }
+    Table table;
+    table.AddColumn("T (s)");
+    table.AddColumn("Se (g)");
+    for (const auto& [period, se] : points) {
+        table.AddRow({Printf("%.3f", period), Printf("%.5f", se)});
+    }
+    table.Print(out, options.format.Format());
+}
+
+void AddSpectrumCommands(CLI::App& app, Action& action) {
+    auto spectrum = std::make_shared<SpectrumOptions>();
+    CLI::App* command =
+        app.add_subcommand("spectrum", "Response spectra of one record, one curve per damping");
+    command->add_option("SET", spectrum->set, "Record set (*.acc)")->required();
+    command->add_option("N", spectrum->record, "Record number (from 1)")
+        ->required()
+        ->check(CLI::PositiveNumber);
+    command
+        ->add_option("--kind", spectrum->kind,
+                     "acc: spectral acceleration (g); dis: spectral displacement (mm); ads: "
+                     "acceleration against displacement")
+        ->check(CLI::IsMember({"acc", "dis", "ads"}))
+        ->capture_default_str();
+    CLI::Option* damping = command->add_option("--damping", spectrum->damping, "Damping ratio")
+                               ->check(kDampingRatio)
+                               ->capture_default_str();
+    CLI::Option* dampingMax = command
+                                  ->add_option("--damping-max", spectrum->dampingMax,
+                                               "Compute the dampings S, 2S, ... up to this one")
+                                  ->check(kDampingRatio);
+    CLI::Option* dampingStep =
+        command->add_option("--damping-step", spectrum->dampingStep, "Damping step S")
+            ->check(kDampingRatio);
+    dampingMax->needs(dampingStep)->excludes(damping);
+    dampingStep->needs(dampingMax);
+    command->add_option("--tmax", spectrum->maxPeriod, "Last period (s)")
+        ->check(kPositive)
+        ->capture_default_str();
+    command->add_option("--dt", spectrum->periodStep, "Period step (s)")
+        ->check(kPositive)
+        ->capture_default_str();
+    AddFormatFlags(*command, spectrum->format, true);
+    SetAction(*command, action, spectrum,
+              [](const SpectrumOptions& o) { RunSpectrum(o, std::cout); });
+
+    auto code = std::make_shared<CodeOptions>();
+    CLI::App* codeCommand = app.add_subcommand(
+        "code", "A code response spectrum: Eurocode 8 (type 2) or Italian NTC; elastic for q = 1, "
+                "design otherwise");
+    codeCommand->add_option("CODE", code->code, "ec8 or ntc")
+        ->required()
+        ->check(CLI::IsMember({"ec8", "ntc"}));
+    codeCommand->add_option("--ag", code->ag, "Ground acceleration (g)")
+        ->required()
+        ->check(kPositive);
+    codeCommand->add_option("--soil", code->soil, "Soil class A, B, C, D or E")
+        ->required()
+        ->check(CLI::IsMember({"A", "B", "C", "D", "E"}, CLI::ignore_case));
+    codeCommand->add_option("--st", code->st, "Topographic factor")
+        ->check(kPositive)
+        ->capture_default_str();
+    codeCommand->add_option("--xi", code->xi, "Damping ratio")
+        ->check(kDampingRatioOrZero)
+        ->capture_default_str();
+    codeCommand->add_option("--q", code->q, "Behaviour factor (1: elastic)")
+        ->check(kPositive)
+        ->capture_default_str();
+    codeCommand->add_option("--f0", code->f0, "NTC: amplification factor F0")->check(kPositive);
+    codeCommand->add_option("--tcs", code->tcs, "NTC: reference corner period TC* (s)")
+        ->check(kPositive);
+    codeCommand->add_option("--tmax", code->maxPeriod, "Last period (s)")
+        ->check(kPositive)
+        ->capture_default_str();
+    codeCommand->add_option("--dt", code->periodStep, "Period step (s)")
+        ->check(kPositive)
+        ->capture_default_str();
+    AddFormatFlags(*codeCommand, code->format, true);
+    SetAction(*codeCommand, action, code, [](const CodeOptions& o) { RunCode(o, std::cout); });
+}
+
+} // namespace seisplot::cli
