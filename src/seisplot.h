@@ -37,8 +37,8 @@
 #include "records/Sinusoids.h"
 
 // Spectra
-#include "spectra/Spectrum.h"
 #include "spectra/Envelope.h"
+#include "spectra/Spectrum.h"
 #include "spectra/SpectrumColl.h"
 
 // Clipping
