@@ -7,68 +7,15 @@
 // overwritten each time. The seeds in corpus/fuzz_read_acc are collections of two, one and no
 // synthetic records as WriteToFile writes them, a truncated copy and an empty file.
 
+#include "ScratchFiles.h"
+
 #include "platform/core/Exceptions.h"
-#include "platform/core/HeadlessUserInterface.h"
 #include "records/AccelerogramColl.h"
 
-#include <cstddef>
-#include <cstdint>
-#include <cstdio>
-#include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <string>
-#include <system_error>
-#include <vector>
-
-#include <unistd.h>
 
 namespace {
-
-std::string g_input;
-std::string g_first;
-std::string g_second;
-
-void RemoveFiles() {
-    for (const std::string* path : {&g_input, &g_first, &g_second}) {
-        std::error_code ignored;
-        std::filesystem::remove(*path, ignored);
-    }
-}
-
-// The folder of the per-run files: $TMPDIR when set, else /dev/shm (memory, no disk traffic
-// on every run) when there is one, else the system's temporary folder.
-std::filesystem::path ScratchFolder() {
-    if (std::getenv("TMPDIR") == nullptr) {
-        std::error_code error;
-        if (std::filesystem::is_directory("/dev/shm", error)) {
-            return "/dev/shm";
-        }
-    }
-    return std::filesystem::temp_directory_path();
-}
-
-// Nobody to answer: any message is recorded, not logged.
-void Setup() {
-    static seisplot::HeadlessUserInterface silent(nullptr);
-    seisplot::InstallUserInterface(&silent);
-    const std::string stem =
-        (ScratchFolder() / ("seisplot-fuzz-acc-" + std::to_string(getpid()))).string();
-    g_input = stem + ".acc";
-    g_first = stem + "-1.acc";
-    g_second = stem + "-2.acc";
-    std::atexit(RemoveFiles);
-}
-
-bool WriteInput(const std::string& path, const std::uint8_t* data, size_t size) {
-    std::FILE* file = std::fopen(path.c_str(), "wb");
-    if (file == nullptr) {
-        return false;
-    }
-    const bool written = size == 0 || std::fwrite(data, 1, size, file) == size;
-    return std::fclose(file) == 0 && written;
-}
 
 std::vector<char> Contents(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
@@ -83,15 +30,15 @@ std::vector<char> Contents(const std::string& path) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, size_t size) {
-    static const bool ready = (Setup(), true);
-    (void)ready;
-    if (!WriteInput(g_input, data, size)) {
-        std::perror("fuzz_read_acc: cannot write the input file");
-        std::abort();
-    }
+    static const std::vector<std::string> paths =
+        seisplot::fuzz::Prepare("acc", {".acc", "-1.acc", "-2.acc"});
+    const std::string& inputPath = paths[0];
+    const std::string& firstPath = paths[1];
+    const std::string& secondPath = paths[2];
+    seisplot::fuzz::WriteInput(inputPath, data, size);
 
     AccelerogramColl records;
-    CString input(g_input.c_str());
+    CString input(inputPath.c_str());
     try {
         records.ReadFromFile(input);
     } catch (CException* e) {
@@ -103,8 +50,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, size_t size) {
     }
 
     // Read: what is written must read back to the same collection.
-    CString first(g_first.c_str());
-    CString second(g_second.c_str());
+    CString first(firstPath.c_str());
+    CString second(secondPath.c_str());
     AccelerogramColl again;
     try {
         records.WriteToFile(first);
@@ -117,7 +64,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, size_t size) {
     if (again.GetAccelerogramNum() != records.GetAccelerogramNum()) {
         Fail("the record count changed in a write and read");
     }
-    if (Contents(g_first) != Contents(g_second)) {
+    if (Contents(firstPath) != Contents(secondPath)) {
         Fail("writing a collection read back from its own file gave other bytes");
     }
     return 0;
