@@ -8,6 +8,8 @@ packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     clang libclang-rt-14-dev
     libcli11-dev nlohmann-json3-dev
+    qt6-base-dev qt6-svg-dev qt6-qpa-plugins
+    fonts-dejavu-core fonts-liberation2
 )
 
 missing=()

@@ -1,0 +1,138 @@
+#include "platform/gdi/DocumentDC.h"
+
+#include "platform/gdi/FontEngine_p.h"
+#include "platform/gdi/Painting_p.h"
+#include "platform/gdi/PixelImage_p.h"
+#include "platform/gdi/Surface_p.h"
+
+#include <QPageSize>
+#include <QPdfWriter>
+#include <QSvgGenerator>
+
+namespace seisplot {
+namespace {
+
+// A painter kept open on a document for its whole life. Raster operations cannot be
+// undone on paper or in a vector picture: figures are drawn plainly.
+class DocumentSurface final : public Surface {
+public:
+    DocumentSurface(std::unique_ptr<QPaintDevice> device, DeviceCaps caps, bool pdf)
+        : m_device(std::move(device)), m_caps(caps), m_pdf(pdf) {
+        m_ok = m_painter.begin(m_device.get());
+    }
+    ~DocumentSurface() override { Finish(); }
+
+    bool Ok() const { return m_ok; }
+    DeviceCaps Caps() const override { return m_caps; }
+
+    void Draw(const DrawCall& call, const DeviceClip& clip) override {
+        if (!m_painter.isActive()) {
+            return;
+        }
+        if (m_pageWanted) {
+            if (auto* pdf = dynamic_cast<QPdfWriter*>(m_device.get())) {
+                pdf->newPage();
+            }
+            m_pageWanted = false;
+        }
+        if (clip.active) {
+            QRegion region;
+            for (const CRect& r : clip.rects) {
+                region += QRect(r.left, r.top, r.Width(), r.Height());
+            }
+            m_painter.setClipRegion(region);
+        } else {
+            m_painter.setClipping(false);
+        }
+        const DeviceColours colours;
+        switch (call.op) {
+        case DrawOp::SetPixel:
+            m_painter.setPen(QtColorOf(call.color));
+            m_painter.drawPoint(call.device[0].x, call.device[0].y);
+            break;
+        case DrawOp::Blit: {
+            const PixelImage* source = call.source && call.source->GetSurface()
+                                           ? call.source->GetSurface()->Pixels()
+                                           : nullptr;
+            if (source != nullptr) {
+                const CRect s = call.sourceRect;
+                const QRect to(QPoint(call.device[0].x, call.device[0].y),
+                               QPoint(call.device[1].x - 1, call.device[1].y - 1));
+                m_painter.drawImage(to.normalized(),
+                                    source->image.copy(QRect(s.left, s.top, s.Width(), s.Height())));
+            }
+            break;
+        }
+        default: PaintCall(m_painter, call, colours); break;
+        }
+    }
+
+    void NewPage() override { m_pageWanted = m_pdf; }
+
+    void Finish() override {
+        if (m_painter.isActive()) {
+            m_ok = m_painter.end() && m_ok;
+        }
+    }
+
+private:
+    std::unique_ptr<QPaintDevice> m_device;
+    QPainter m_painter;
+    DeviceCaps m_caps;
+    bool m_pdf;
+    bool m_ok = false;
+    bool m_pageWanted = false;
+};
+
+} // namespace
+
+DocumentDC::DocumentDC(std::shared_ptr<Surface> surface) : CDC(std::move(surface)) {}
+
+std::unique_ptr<DocumentDC> DocumentDC::OpenPdf(const CString& path, double widthMm,
+                                                double heightMm, int dpi) {
+    EnsureGuiApplication();
+    auto writer = std::make_unique<QPdfWriter>(QString::fromLocal8Bit(path.GetString()));
+    writer->setPageSize(QPageSize(QSizeF(widthMm, heightMm), QPageSize::Millimeter));
+    writer->setPageMargins(QMarginsF(0, 0, 0, 0));
+    writer->setResolution(dpi);
+    writer->setCreator(QStringLiteral("seisplot"));
+    DeviceCaps caps;
+    caps.width = writer->width();
+    caps.height = writer->height();
+    caps.dpiX = caps.dpiY = dpi;
+    caps.technology = DT_RASPRINTER;
+    caps.printing = true;
+    auto surface = std::make_shared<DocumentSurface>(std::move(writer), caps, true);
+    if (!surface->Ok()) {
+        return nullptr;
+    }
+    return std::unique_ptr<DocumentDC>(new DocumentDC(surface));
+}
+
+std::unique_ptr<DocumentDC> DocumentDC::OpenSvg(const CString& path, int width, int height,
+                                                int dpi) {
+    EnsureGuiApplication();
+    auto svg = std::make_unique<QSvgGenerator>();
+    svg->setFileName(QString::fromLocal8Bit(path.GetString()));
+    svg->setSize(QSize(width, height));
+    svg->setViewBox(QRect(0, 0, width, height));
+    svg->setResolution(dpi);
+    svg->setTitle(QStringLiteral("seisplot"));
+    DeviceCaps caps;
+    caps.width = width;
+    caps.height = height;
+    caps.dpiX = caps.dpiY = dpi;
+    auto surface = std::make_shared<DocumentSurface>(std::move(svg), caps, false);
+    if (!surface->Ok()) {
+        return nullptr;
+    }
+    return std::unique_ptr<DocumentDC>(new DocumentDC(surface));
+}
+
+bool DocumentDC::Close() {
+    auto& surface = static_cast<DocumentSurface&>(*GetSurface());
+    surface.Finish();
+    return surface.Ok();
+}
+
+} // namespace seisplot

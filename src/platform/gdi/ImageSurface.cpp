@@ -1,0 +1,221 @@
+// Drawing on the pixels of a bitmap or a window: every raster operation exact, thin lines
+// without their end pixel, as the framework draws them.
+
+#include "platform/gdi/CDC.h"
+#include "platform/gdi/FontEngine_p.h"
+#include "platform/gdi/Painting_p.h"
+#include "platform/gdi/PixelImage_p.h"
+#include "platform/gdi/Surface_p.h"
+
+#include <QRegion>
+
+#include <cstdlib>
+
+namespace seisplot {
+namespace {
+
+// The 16 binary raster operations: code − 1 is the truth table of (pen, destination).
+QRgb Rop2(int code, QRgb pen, QRgb dst) {
+    const unsigned t = static_cast<unsigned>(code - 1) & 0xF;
+    const unsigned p = pen & 0xFFFFFF;
+    const unsigned d = dst & 0xFFFFFF;
+    unsigned r = 0;
+    if (t & 1) {
+        r |= ~p & ~d;
+    }
+    if (t & 2) {
+        r |= ~p & d;
+    }
+    if (t & 4) {
+        r |= p & ~d;
+    }
+    if (t & 8) {
+        r |= p & d;
+    }
+    return 0xFF000000u | (r & 0xFFFFFF);
+}
+
+class ImageSurface final : public Surface {
+public:
+    ImageSurface(std::shared_ptr<PixelImage> pixels, int dpi)
+        : m_pixels(std::move(pixels)), m_dpi(dpi) {
+        EnsureGuiApplication();
+    }
+
+    DeviceCaps Caps() const override {
+        DeviceCaps caps;
+        caps.width = m_pixels->image.width();
+        caps.height = m_pixels->image.height();
+        caps.dpiX = caps.dpiY = m_dpi;
+        caps.numColors = m_pixels->monochrome ? 2 : -1;
+        return caps;
+    }
+
+    const PixelImage* Pixels() const override { return m_pixels.get(); }
+
+    COLORREF GetPixel(CPoint p) const override {
+        const QImage& image = m_pixels->image;
+        if (!image.rect().contains(p.x, p.y)) {
+            return CLR_INVALID;
+        }
+        const QRgb c = image.pixel(p.x, p.y);
+        return RGB(qRed(c), qGreen(c), qBlue(c));
+    }
+
+    void Draw(const DrawCall& call, const DeviceClip& clip) override {
+        m_region = ClipRegion(clip);
+        const DeviceColours colours{m_pixels->monochrome};
+        switch (call.op) {
+        case DrawOp::SetPixel:
+            Plot(call.device[0].x, call.device[0].y, colours(call.color).rgb(), R2_COPYPEN);
+            return;
+        case DrawOp::Blit: Blit(call); return;
+        case DrawOp::Line:
+            if (call.penDeviceWidth <= 1) {
+                ThinLine(call, colours);
+                return;
+            }
+            break;
+        default: break;
+        }
+        if (call.rop2 == R2_COPYPEN || call.op == DrawOp::Text) {
+            QPainter painter(&m_pixels->image);
+            painter.setClipRegion(m_region);
+            PaintCall(painter, call, colours);
+        } else {
+            PaintWithRop(call, colours);
+        }
+    }
+
+private:
+    QRegion ClipRegion(const DeviceClip& clip) const {
+        if (!clip.active) {
+            return QRegion(m_pixels->image.rect());
+        }
+        QRegion region;
+        for (const CRect& r : clip.rects) {
+            if (!r.IsRectEmpty()) {
+                region += QRect(r.left, r.top, r.Width(), r.Height());
+            }
+        }
+        return region & m_pixels->image.rect();
+    }
+
+    bool Visible(int x, int y) const {
+        return m_region.rectCount() == 1 ? m_region.boundingRect().contains(x, y)
+                                         : m_region.contains(QPoint(x, y));
+    }
+
+    void Plot(int x, int y, QRgb colour, int rop) {
+        if (!Visible(x, y)) {
+            return;
+        }
+        auto* line = reinterpret_cast<QRgb*>(m_pixels->image.scanLine(y));
+        QRgb c = rop == R2_COPYPEN ? colour : Rop2(rop, colour, line[x]);
+        line[x] = m_pixels->monochrome ? MonochromeOf(c) : c;
+    }
+
+    // A one-pixel line from the first point up to, not including, the second; dashes and
+    // dots by pixel count, their gaps in the background colour when the mode is OPAQUE.
+    void ThinLine(const DrawCall& call, const DeviceColours& colours) {
+        if (call.pen.style == PS_NULL) {
+            return;
+        }
+        int x0 = call.device[0].x, y0 = call.device[0].y;
+        const int x1 = call.device[1].x, y1 = call.device[1].y;
+        const int dx = std::abs(x1 - x0), dy = -std::abs(y1 - y0);
+        const int sx = x0 < x1 ? 1 : -1, sy = y0 < y1 ? 1 : -1;
+        int err = dx + dy;
+        const QRgb ink = colours(call.pen.color).rgb();
+        const QRgb gap = colours(call.bkColor).rgb();
+        int on = 1, period = 1;
+        if (call.pen.style == PS_DASH) {
+            on = 18, period = 24;
+        } else if (call.pen.style == PS_DOT) {
+            on = 3, period = 6;
+        }
+        for (int n = 0; x0 != x1 || y0 != y1; ++n) {
+            if (n % period < on) {
+                Plot(x0, y0, ink, call.rop2);
+            } else if (call.bkMode == OPAQUE) {
+                Plot(x0, y0, gap, call.rop2);
+            }
+            const int e2 = 2 * err;
+            if (e2 >= dy) {
+                err += dy;
+                x0 += sx;
+            }
+            if (e2 <= dx) {
+                err += dx;
+                y0 += sy;
+            }
+        }
+    }
+
+    // A figure under a raster operation: painted alone on a clear layer, then every pixel
+    // it covers is combined with the picture once.
+    void PaintWithRop(const DrawCall& call, const DeviceColours& colours) {
+        const QRect area = CallBounds(call) & m_region.boundingRect();
+        if (area.isEmpty()) {
+            return;
+        }
+        QImage layer(area.size(), QImage::Format_ARGB32);
+        layer.fill(Qt::transparent);
+        {
+            QPainter painter(&layer);
+            painter.translate(-area.topLeft());
+            PaintCall(painter, call, colours);
+        }
+        for (int y = 0; y < layer.height(); ++y) {
+            const auto* src = reinterpret_cast<const QRgb*>(layer.constScanLine(y));
+            for (int x = 0; x < layer.width(); ++x) {
+                if (qAlpha(src[x]) != 0) {
+                    Plot(area.left() + x, area.top() + y, src[x], call.rop2);
+                }
+            }
+        }
+    }
+
+    void Blit(const DrawCall& call) {
+        const PixelImage* source =
+            call.source != nullptr && call.source->GetSurface() ? call.source->GetSurface()->Pixels()
+                                                                : nullptr;
+        if (source == nullptr) {
+            return;
+        }
+        const CRect s = call.sourceRect;
+        const QRect from = QRect(QPoint(std::min(s.left, s.right), std::min(s.top, s.bottom)),
+                                 QSize(std::abs(s.Width()), std::abs(s.Height())));
+        const int dw = call.device[1].x - call.device[0].x;
+        const int dh = call.device[1].y - call.device[0].y;
+        if (from.isEmpty() || dw == 0 || dh == 0) {
+            return;
+        }
+        QImage piece = source->image.copy(from).convertToFormat(QImage::Format_RGB32);
+        const bool flipX = (dw < 0) != (s.Width() < 0);
+        const bool flipY = (dh < 0) != (s.Height() < 0);
+        piece = piece.mirrored(flipX, flipY).scaled(std::abs(dw), std::abs(dh), Qt::IgnoreAspectRatio,
+                                                    Qt::FastTransformation);
+        const int left = std::min(call.device[0].x, call.device[1].x);
+        const int top = std::min(call.device[0].y, call.device[1].y);
+        const bool invert = call.rop == SRCINVERT;
+        for (int y = 0; y < piece.height(); ++y) {
+            const auto* src = reinterpret_cast<const QRgb*>(piece.constScanLine(y));
+            for (int x = 0; x < piece.width(); ++x) {
+                Plot(left + x, top + y, src[x], invert ? R2_XORPEN : R2_COPYPEN);
+            }
+        }
+    }
+
+    std::shared_ptr<PixelImage> m_pixels;
+    int m_dpi;
+    QRegion m_region;
+};
+
+} // namespace
+
+std::shared_ptr<Surface> MakeImageSurface(std::shared_ptr<PixelImage> pixels, int dpi) {
+    return std::make_shared<ImageSurface>(std::move(pixels), dpi);
+}
+
+} // namespace seisplot
