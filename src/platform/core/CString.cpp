@@ -1,5 +1,6 @@
 #include "platform/core/CString.h"
 
+#include "platform/core/ResourceModule.h"
 #include "platform/core/StringTable.h"
 
 #include <algorithm>
@@ -361,9 +362,10 @@ void CString::ReleaseBuffer(int newLength) {
 }
 
 BOOL CString::LoadString(UINT id) {
-    if (!seisplot::HasLibraryString(id)) {
+    auto text = seisplot::FindResourceString(id);
+    if (!text) {
         return FALSE;
     }
-    *this = seisplot::LoadLibraryString(id);
+    *this = std::move(*text);
     return TRUE;
 }

@@ -162,6 +162,11 @@ bool ConsoleUserInterface::ChooseUnits(UnitQuestion& question) {
     return answered;
 }
 
+bool ConsoleUserInterface::ChooseFont(FontChoice& /*choice*/) {
+    m_err << "seisplot: no font can be chosen here; the font stays as it was\n";
+    return false;
+}
+
 bool ConsoleUserInterface::StartProcess(const CString& commandLine) {
     m_err << "seisplot: not started here: " << commandLine.GetString() << '\n';
     return true;

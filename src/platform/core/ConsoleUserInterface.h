@@ -1,7 +1,8 @@
 #pragma once
 // The user interface of the command-line tool: messages go to the error stream; questions,
 // file names and units are asked at the terminal when there is one, and otherwise come from
-// answers the program set beforehand (its options).
+// answers the program set beforehand (its options). A font cannot be chosen at a terminal: the
+// choice is cancelled and the font stays as it was.
 
 #include "platform/core/UserInterface.h"
 
@@ -25,6 +26,7 @@ public:
     int ShowMessage(const CString& text, UINT type) override;
     std::optional<std::vector<CString>> ChooseFiles(const FileRequest& request) override;
     bool ChooseUnits(UnitQuestion& question) override;
+    bool ChooseFont(FontChoice& choice) override;
     void BeginWait() override {}
     void EndWait() override {}
     bool StartProcess(const CString& commandLine) override;

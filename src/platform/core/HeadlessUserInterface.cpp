@@ -32,6 +32,11 @@ bool HeadlessUserInterface::ChooseUnits(UnitQuestion& /*question*/) {
     return true;
 }
 
+bool HeadlessUserInterface::ChooseFont(FontChoice& /*choice*/) {
+    Log("no font can be chosen here");
+    return false;
+}
+
 void HeadlessUserInterface::EndWait() {
     if (m_waitDepth > 0) {
         --m_waitDepth;

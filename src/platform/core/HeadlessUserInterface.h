@@ -1,6 +1,7 @@
 #pragma once
 // The user interface of a process with nobody to ask: every message is recorded and logged,
-// questions take their default button, file choices are cancelled, units stay as they are.
+// questions take their default button, file and font choices are cancelled, units stay as
+// they are.
 
 #include "platform/core/UserInterface.h"
 
@@ -19,6 +20,7 @@ public:
     int ShowMessage(const CString& text, UINT type) override;
     std::optional<std::vector<CString>> ChooseFiles(const FileRequest& request) override;
     bool ChooseUnits(UnitQuestion& question) override;
+    bool ChooseFont(FontChoice& choice) override;
     void BeginWait() override { ++m_waitDepth; }
     void EndWait() override;
     bool StartProcess(const CString& commandLine) override;

@@ -16,9 +16,11 @@ void ScriptedUserInterface::Clear() {
     m_answers.clear();
     m_files.clear();
     m_units.clear();
+    m_fonts.clear();
     m_messages.clear();
     m_fileRequests.clear();
     m_unitQuestions.clear();
+    m_fontRequests.clear();
     m_processes.clear();
     m_unanswered = 0;
     m_waitCount = 0;
@@ -76,6 +78,21 @@ bool ScriptedUserInterface::ChooseUnits(UnitQuestion& question) {
             }
         }
     }
+    return true;
+}
+
+bool ScriptedUserInterface::ChooseFont(FontChoice& choice) {
+    m_fontRequests.push_back(choice);
+    if (m_fonts.empty()) {
+        ++m_unanswered;
+        return false;
+    }
+    const std::optional<FontChoice> answer = m_fonts.front();
+    m_fonts.pop_front();
+    if (!answer) {
+        return false;
+    }
+    choice = *answer;
     return true;
 }
 

@@ -25,12 +25,16 @@ public:
     void QueueFiles(std::vector<CString> paths) { m_files.push_back(std::move(paths)); }
     void QueueCancelFiles() { m_files.push_back(std::nullopt); }
     void QueueUnits(UnitAnswer answer) { m_units.push_back(std::move(answer)); }
+    void QueueFont(const FontChoice& choice) { m_fonts.push_back(choice); }
+    void QueueCancelFont() { m_fonts.push_back(std::nullopt); }
 
     // What happened
     const std::vector<Message>& Messages() const { return m_messages; }
     std::vector<CString> MessageTexts() const;
     const std::vector<FileRequest>& FileRequests() const { return m_fileRequests; }
     const std::vector<UnitQuestion>& UnitQuestions() const { return m_unitQuestions; }
+    // The font and colour each font chooser opened on.
+    const std::vector<FontChoice>& FontRequests() const { return m_fontRequests; }
     const std::vector<CString>& Processes() const { return m_processes; }
     int Unanswered() const { return m_unanswered; }
     int WaitDepth() const { return m_waitDepth; }
@@ -40,6 +44,7 @@ public:
     int ShowMessage(const CString& text, UINT type) override;
     std::optional<std::vector<CString>> ChooseFiles(const FileRequest& request) override;
     bool ChooseUnits(UnitQuestion& question) override;
+    bool ChooseFont(FontChoice& choice) override;
     void BeginWait() override;
     void EndWait() override { --m_waitDepth; }
     bool StartProcess(const CString& commandLine) override;
@@ -48,9 +53,11 @@ private:
     std::deque<int> m_answers;
     std::deque<std::optional<std::vector<CString>>> m_files;
     std::deque<UnitAnswer> m_units;
+    std::deque<std::optional<FontChoice>> m_fonts;
     std::vector<Message> m_messages;
     std::vector<FileRequest> m_fileRequests;
     std::vector<UnitQuestion> m_unitQuestions;
+    std::vector<FontChoice> m_fontRequests;
     std::vector<CString> m_processes;
     int m_unanswered = 0;
     int m_waitDepth = 0;

@@ -1,5 +1,7 @@
 #include "platform/core/StringTable.h"
 
+#include "platform/core/ResourceModule.h"
+
 #include <cstdlib>
 #include <cstring>
 
@@ -47,7 +49,7 @@ bool HasLibraryString(UINT id) {
 }
 
 CString LoadLibraryString(UINT id) {
-    return LoadLibraryString(id, CurrentLanguage());
+    return FindResourceString(id).value_or(CString());
 }
 
 CString LoadLibraryString(UINT id, Language language) {

@@ -13,7 +13,8 @@ using LONGLONG = std::int64_t;
 using ULONGLONG = std::uint64_t;
 using BOOL = int;
 using DATE = double;
-using COLORREF = std::uint32_t;
+// Colours 0x00BBGGRR, as the library's drawing functions take them (unsigned long).
+using COLORREF = unsigned long;
 using LPCTSTR = const char*;
 using LPTSTR = char*;
 using LPCSTR = const char*;

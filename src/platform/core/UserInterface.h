@@ -1,11 +1,12 @@
 #pragma once
 // The user-interface services: the only way the library talks to a person.
 //
-// Message boxes, file choices, the unit choice, the wait cursor and the text viewer all go
-// through the UserInterface installed for the process. Without one, a headless default
+// Message boxes, file choices, the unit and font choices, the wait cursor and the text viewer
+// all go through the UserInterface installed for the process. Without one, a headless default
 // records and logs everything and never blocks.
 
 #include "platform/core/CString.h"
+#include "platform/core/LogFont.h"
 
 #include <optional>
 #include <vector>
@@ -84,6 +85,14 @@ struct UnitQuestion {
     std::vector<Quantity> quantities;
 };
 
+// A font and its text colour (0x00BBGGRR), as the font chooser opens on them and returns them.
+// The height is whatever size the caller keeps in lfHeight (points, for SFont); a chooser
+// keeps its sign and unit.
+struct FontChoice {
+    LOGFONTA font;
+    COLORREF colour = 0;
+};
+
 // A message as it was shown, with the button that answered it.
 struct ShownMessage {
     CString text;
@@ -101,6 +110,9 @@ public:
     virtual std::optional<std::vector<CString>> ChooseFiles(const FileRequest& request) = 0;
     // Lets the user change the `current` entries that are asked; false when cancelled.
     virtual bool ChooseUnits(UnitQuestion& question) = 0;
+    // Lets the user change the font and its colour; false (and `choice` untouched) when
+    // cancelled.
+    virtual bool ChooseFont(FontChoice& choice) = 0;
     // The wait cursor: shown while the count of BeginWait over EndWait is positive.
     virtual void BeginWait() = 0;
     virtual void EndWait() = 0;

@@ -169,3 +169,24 @@ TEST(ConsoleUserInterface, AsksAtTheTerminal) {
     // At the end of the input a question takes its default.
     EXPECT_EQ(ui.ShowMessage("Delete?", MB_YESNOCANCEL | MB_DEFBUTTON3), IDCANCEL);
 }
+
+TEST(UserInterface, FontChoiceUnansweredOrImpossibleLeavesTheFont) {
+    seisplot::FontChoice choice;
+    choice.font.lfHeight = 12;
+    choice.colour = 0x0000FF;
+
+    // An empty queue cancels and counts the question.
+    ScriptedUserInterface scripted;
+    EXPECT_FALSE(scripted.ChooseFont(choice));
+    EXPECT_EQ(scripted.Unanswered(), 1);
+    EXPECT_EQ(scripted.FontRequests().size(), 1u);
+
+    std::istringstream in("Arial\n");
+    std::ostringstream err;
+    seisplot::ConsoleUserInterface console(in, err, true);
+    EXPECT_FALSE(console.ChooseFont(choice));
+    EXPECT_EQ(static_cast<std::streamoff>(in.tellg()), 0);
+    EXPECT_FALSE(seisplot::HeadlessUserInterface(nullptr).ChooseFont(choice));
+    EXPECT_EQ(choice.font.lfHeight, 12);
+    EXPECT_EQ(choice.colour, 0x0000FFu);
+}
