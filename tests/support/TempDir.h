@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <string>
 #include <unistd.h>
 
@@ -31,6 +32,13 @@ public:
         return file.string();
     }
     std::string Path(const std::string& name) const { return (m_path / name).string(); }
+    // The bytes of `name` inside the folder; empty when it cannot be read.
+    std::string Read(const std::string& name) const {
+        std::ifstream in(m_path / name, std::ios::binary);
+        std::ostringstream bytes;
+        bytes << in.rdbuf();
+        return bytes.str();
+    }
 
 private:
     std::filesystem::path m_path;

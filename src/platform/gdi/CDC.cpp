@@ -37,9 +37,7 @@ struct CDC::State {
     UINT textAlign = TA_LEFT | TA_TOP | TA_NOUPDATECP;
     CPoint position;
 
-    seisplot::DeviceCaps Caps() const {
-        return surface ? surface->Caps() : seisplot::DeviceCaps{};
-    }
+    seisplot::DeviceCaps Caps() const { return surface ? surface->Caps() : seisplot::DeviceCaps{}; }
     // Device pixels per logical unit; the y scale is negative where y points up.
     double ScaleX() const {
         const int dpi = Caps().dpiX;
@@ -47,15 +45,15 @@ struct CDC::State {
     }
     double ScaleY() const {
         const int dpi = Caps().dpiY;
-        return mapMode == MM_LOMETRIC    ? -dpi / 254.0
-               : mapMode == MM_HIMETRIC ? -dpi / 2540.0
-                                        : 1.0;
+        return mapMode == MM_LOMETRIC ? -dpi / 254.0 : mapMode == MM_HIMETRIC ? -dpi / 2540.0 : 1.0;
     }
 };
 
 namespace {
 
-LONG RoundToLong(double v) { return static_cast<LONG>(std::lround(v)); }
+LONG RoundToLong(double v) {
+    return static_cast<LONG>(std::lround(v));
+}
 
 } // namespace
 
@@ -68,9 +66,13 @@ CDC::CDC(std::shared_ptr<seisplot::Surface> surface) : CDC() {
 
 CDC::~CDC() = default;
 
-bool CDC::HasSurface() const { return m_state->surface != nullptr; }
+bool CDC::HasSurface() const {
+    return m_state->surface != nullptr;
+}
 
-const std::shared_ptr<seisplot::Surface>& CDC::GetSurface() const { return m_state->surface; }
+const std::shared_ptr<seisplot::Surface>& CDC::GetSurface() const {
+    return m_state->surface;
+}
 
 BOOL CDC::CreateCompatibleDC(CDC* dc) {
     if (HasSurface()) {
@@ -83,8 +85,7 @@ BOOL CDC::CreateCompatibleDC(CDC* dc) {
         m_state->memoryDpi = caps.dpiX;
     }
     m_state->bitmap = CBitmap::DefaultMemoryBitmap();
-    m_state->surface =
-        seisplot::MakeImageSurface(m_state->bitmap->Pixels(), m_state->memoryDpi);
+    m_state->surface = seisplot::MakeImageSurface(m_state->bitmap->Pixels(), m_state->memoryDpi);
     return TRUE;
 }
 
@@ -100,16 +101,26 @@ BOOL CDC::DeleteDC() {
 int CDC::GetDeviceCaps(int index) const {
     const auto caps = m_state->Caps();
     switch (index) {
-    case HORZRES: return caps.width;
-    case VERTRES: return caps.height;
-    case HORZSIZE: return static_cast<int>(std::lround(caps.width * 25.4 / caps.dpiX));
-    case VERTSIZE: return static_cast<int>(std::lround(caps.height * 25.4 / caps.dpiY));
-    case LOGPIXELSX: return caps.dpiX;
-    case LOGPIXELSY: return caps.dpiY;
-    case NUMCOLORS: return caps.numColors;
-    case BITSPIXEL: return caps.numColors == 2 ? 1 : 32;
-    case TECHNOLOGY: return caps.technology;
-    default: return 0;
+    case HORZRES:
+        return caps.width;
+    case VERTRES:
+        return caps.height;
+    case HORZSIZE:
+        return static_cast<int>(std::lround(caps.width * 25.4 / caps.dpiX));
+    case VERTSIZE:
+        return static_cast<int>(std::lround(caps.height * 25.4 / caps.dpiY));
+    case LOGPIXELSX:
+        return caps.dpiX;
+    case LOGPIXELSY:
+        return caps.dpiY;
+    case NUMCOLORS:
+        return caps.numColors;
+    case BITSPIXEL:
+        return caps.numColors == 2 ? 1 : 32;
+    case TECHNOLOGY:
+        return caps.technology;
+    default:
+        return 0;
     }
 }
 
@@ -124,16 +135,22 @@ int CDC::SetMapMode(int mode) {
     }
     return previous;
 }
-int CDC::GetMapMode() const { return m_state->mapMode; }
+int CDC::GetMapMode() const {
+    return m_state->mapMode;
+}
 
 CPoint CDC::SetWindowOrg(int x, int y) {
     return std::exchange(m_state->windowOrg, CPoint(x, y));
 }
-CPoint CDC::GetWindowOrg() const { return m_state->windowOrg; }
+CPoint CDC::GetWindowOrg() const {
+    return m_state->windowOrg;
+}
 CPoint CDC::SetViewportOrg(int x, int y) {
     return std::exchange(m_state->viewportOrg, CPoint(x, y));
 }
-CPoint CDC::GetViewportOrg() const { return m_state->viewportOrg; }
+CPoint CDC::GetViewportOrg() const {
+    return m_state->viewportOrg;
+}
 
 CPoint CDC::ToDevice(int x, int y) const {
     const State& s = *m_state;
@@ -146,7 +163,9 @@ void CDC::LPtoDP(LPPOINT points, int count) const {
         points[i] = ToDevice(points[i].x, points[i].y);
     }
 }
-void CDC::LPtoDP(LPRECT rect) const { LPtoDP(reinterpret_cast<LPPOINT>(rect), 2); }
+void CDC::LPtoDP(LPRECT rect) const {
+    LPtoDP(reinterpret_cast<LPPOINT>(rect), 2);
+}
 void CDC::LPtoDP(LPSIZE size) const {
     size->cx = RoundToLong(size->cx * std::abs(m_state->ScaleX()));
     size->cy = RoundToLong(size->cy * std::abs(m_state->ScaleY()));
@@ -159,7 +178,9 @@ void CDC::DPtoLP(LPPOINT points, int count) const {
         points[i].y = RoundToLong((points[i].y - s.viewportOrg.y) / s.ScaleY()) + s.windowOrg.y;
     }
 }
-void CDC::DPtoLP(LPRECT rect) const { DPtoLP(reinterpret_cast<LPPOINT>(rect), 2); }
+void CDC::DPtoLP(LPRECT rect) const {
+    DPtoLP(reinterpret_cast<LPPOINT>(rect), 2);
+}
 void CDC::DPtoLP(LPSIZE size) const {
     size->cx = RoundToLong(size->cx / std::abs(m_state->ScaleX()));
     size->cy = RoundToLong(size->cy / std::abs(m_state->ScaleY()));
@@ -213,10 +234,10 @@ int CDC::GetClipBox(LPRECT rect) const {
             if (c.IsRectEmpty()) {
                 continue;
             }
-            bound = bound.IsRectEmpty() ? c
-                                        : CRect(std::min(bound.left, c.left), std::min(bound.top, c.top),
-                                                std::max(bound.right, c.right),
-                                                std::max(bound.bottom, c.bottom));
+            bound = bound.IsRectEmpty()
+                        ? c
+                        : CRect(std::min(bound.left, c.left), std::min(bound.top, c.top),
+                                std::max(bound.right, c.right), std::max(bound.bottom, c.bottom));
         }
         box = bound;
     }
@@ -264,10 +285,14 @@ CGdiObject* CDC::SelectObject(CGdiObject* object) {
         return nullptr;
     }
     switch (object->GetKind()) {
-    case CGdiObject::Kind::Pen: return SelectObject(static_cast<CPen*>(object));
-    case CGdiObject::Kind::Brush: return SelectObject(static_cast<CBrush*>(object));
-    case CGdiObject::Kind::Font: return SelectObject(static_cast<CFont*>(object));
-    case CGdiObject::Kind::Bitmap: return SelectObject(static_cast<CBitmap*>(object));
+    case CGdiObject::Kind::Pen:
+        return SelectObject(static_cast<CPen*>(object));
+    case CGdiObject::Kind::Brush:
+        return SelectObject(static_cast<CBrush*>(object));
+    case CGdiObject::Kind::Font:
+        return SelectObject(static_cast<CFont*>(object));
+    case CGdiObject::Kind::Bitmap:
+        return SelectObject(static_cast<CBitmap*>(object));
     case CGdiObject::Kind::Region:
         SelectClipRgn(static_cast<CRgn*>(object));
         return nullptr;
@@ -288,28 +313,57 @@ CGdiObject* CDC::SelectStockObject(int index) {
     return nullptr;
 }
 
-CPen* CDC::GetCurrentPen() const { return m_state->pen; }
-CBrush* CDC::GetCurrentBrush() const { return m_state->brush; }
-CFont* CDC::GetCurrentFont() const { return m_state->font; }
-CBitmap* CDC::GetCurrentBitmap() const { return m_state->bitmap; }
+CPen* CDC::GetCurrentPen() const {
+    return m_state->pen;
+}
+CBrush* CDC::GetCurrentBrush() const {
+    return m_state->brush;
+}
+CFont* CDC::GetCurrentFont() const {
+    return m_state->font;
+}
+CBitmap* CDC::GetCurrentBitmap() const {
+    return m_state->bitmap;
+}
 
-int CDC::SetROP2(int mode) { return std::exchange(m_state->rop2, mode); }
-int CDC::GetROP2() const { return m_state->rop2; }
-int CDC::SetBkMode(int mode) { return std::exchange(m_state->bkMode, mode); }
-int CDC::GetBkMode() const { return m_state->bkMode; }
-COLORREF CDC::SetBkColor(COLORREF color) { return std::exchange(m_state->bkColor, color); }
-COLORREF CDC::GetBkColor() const { return m_state->bkColor; }
-COLORREF CDC::SetTextColor(COLORREF color) { return std::exchange(m_state->textColor, color); }
-COLORREF CDC::GetTextColor() const { return m_state->textColor; }
-UINT CDC::SetTextAlign(UINT flags) { return std::exchange(m_state->textAlign, flags); }
-UINT CDC::GetTextAlign() const { return m_state->textAlign; }
+int CDC::SetROP2(int mode) {
+    return std::exchange(m_state->rop2, mode);
+}
+int CDC::GetROP2() const {
+    return m_state->rop2;
+}
+int CDC::SetBkMode(int mode) {
+    return std::exchange(m_state->bkMode, mode);
+}
+int CDC::GetBkMode() const {
+    return m_state->bkMode;
+}
+COLORREF CDC::SetBkColor(COLORREF color) {
+    return std::exchange(m_state->bkColor, color);
+}
+COLORREF CDC::GetBkColor() const {
+    return m_state->bkColor;
+}
+COLORREF CDC::SetTextColor(COLORREF color) {
+    return std::exchange(m_state->textColor, color);
+}
+COLORREF CDC::GetTextColor() const {
+    return m_state->textColor;
+}
+UINT CDC::SetTextAlign(UINT flags) {
+    return std::exchange(m_state->textAlign, flags);
+}
+UINT CDC::GetTextAlign() const {
+    return m_state->textAlign;
+}
 
 int CDC::PenPixels(int width) const {
     return std::max(1, static_cast<int>(std::lround(width * std::abs(m_state->ScaleX()))));
 }
 
 int CDC::FontPixels(const LOGFONTA& font) const {
-    if (font.lfHeight == 0) {
+    // The stock font is a device font: its size does not follow the mapping mode.
+    if (font.lfHeight == 0 || m_state->font == CFont::FromStock(SYSTEM_FONT)) {
         return 16; // the framework's default size on a 96 dpi screen
     }
     const int pixels = std::max(
@@ -345,8 +399,12 @@ void CDC::Submit(const DrawCall& call) {
     }
 }
 
-CPoint CDC::MoveTo(int x, int y) { return std::exchange(m_state->position, CPoint(x, y)); }
-CPoint CDC::GetCurrentPosition() const { return m_state->position; }
+CPoint CDC::MoveTo(int x, int y) {
+    return std::exchange(m_state->position, CPoint(x, y));
+}
+CPoint CDC::GetCurrentPosition() const {
+    return m_state->position;
+}
 
 BOOL CDC::LineTo(int x, int y) {
     Submit(Resolve(DrawOp::Line, {m_state->position, CPoint(x, y)}));
@@ -393,9 +451,12 @@ BOOL CDC::Pie(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4) {
 }
 
 void CDC::FillSolidRect(LPCRECT rect, COLORREF color) {
-    DrawCall call = Resolve(DrawOp::Rectangle, {CPoint(rect->left, rect->top),
-                                                CPoint(rect->right, rect->bottom)});
-    call.pen = {PS_NULL, 0, 0};
+    DrawCall call = Resolve(DrawOp::Rectangle,
+                            {CPoint(rect->left, rect->top), CPoint(rect->right, rect->bottom)});
+    // The whole rectangle but its right and bottom edges: a one-pixel outline in the same
+    // colour covers what a fill without a pen leaves out.
+    call.pen = {PS_SOLID, 0, color};
+    call.penDeviceWidth = 1;
     call.brush = {BS_SOLID, color, 0, nullptr};
     call.rop2 = R2_COPYPEN;
     Submit(call);
@@ -472,8 +533,7 @@ BOOL CDC::GetTextMetrics(TEXTMETRICA* tm) const {
     return TRUE;
 }
 
-BOOL CDC::BitBlt(int x, int y, int width, int height, CDC* source, int xSrc, int ySrc,
-                 DWORD rop) {
+BOOL CDC::BitBlt(int x, int y, int width, int height, CDC* source, int xSrc, int ySrc, DWORD rop) {
     return StretchBlt(x, y, width, height, source, xSrc, ySrc, width, height, rop);
 }
 
@@ -492,8 +552,12 @@ BOOL CDC::StretchBlt(int x, int y, int width, int height, CDC* source, int xSrc,
     return HasSurface();
 }
 
-int CDC::StartDoc(LPCTSTR) { return HasSurface() ? 1 : -1; }
-int CDC::StartPage() { return HasSurface() ? 1 : -1; }
+int CDC::StartDoc(LPCTSTR) {
+    return HasSurface() ? 1 : -1;
+}
+int CDC::StartPage() {
+    return HasSurface() ? 1 : -1;
+}
 int CDC::EndPage() {
     if (!HasSurface()) {
         return -1;

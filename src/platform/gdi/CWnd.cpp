@@ -14,14 +14,16 @@ public:
         : CDC(seisplot::MakeImageSurface(std::move(picture), 96)) {}
 };
 
-bool SaveImage(const QImage& image, const CString& path) {
+bool SaveImage(const QImage& image, const CString& path, const char* format) {
     seisplot::EnsureGuiApplication();
-    return image.save(QString::fromLocal8Bit(path.GetString()));
+    return image.save(QString::fromLocal8Bit(path.GetString()), format);
 }
 
 } // namespace
 
-CWnd::CWnd() { SetClientSize(1, 1); }
+CWnd::CWnd() {
+    SetClientSize(1, 1);
+}
 CWnd::~CWnd() = default;
 
 void CWnd::GetClientRect(LPRECT rect) const {
@@ -50,12 +52,14 @@ void CWnd::SetClientSize(int width, int height) {
     m_picture = std::move(picture);
 }
 
-bool CWnd::SavePicture(const CString& path) const { return SaveImage(m_picture->image, path); }
+bool CWnd::SavePicture(const CString& path, const char* format) const {
+    return SaveImage(m_picture->image, path, format);
+}
 
 namespace seisplot {
 
-bool SaveBitmap(const CBitmap& bitmap, const CString& path) {
-    return bitmap.Pixels() != nullptr && SaveImage(bitmap.Pixels()->image, path);
+bool SaveBitmap(const CBitmap& bitmap, const CString& path, const char* format) {
+    return bitmap.Pixels() != nullptr && SaveImage(bitmap.Pixels()->image, path, format);
 }
 
 } // namespace seisplot

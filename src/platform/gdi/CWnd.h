@@ -27,8 +27,9 @@ public:
     // The size of the client area; the picture starts white.
     void SetClientSize(int width, int height);
     const std::shared_ptr<seisplot::PixelImage>& Picture() const { return m_picture; }
-    // Writes the picture to an image file (PNG, BMP, ... by the name's extension).
-    bool SavePicture(const CString& path) const;
+    // Writes the picture to an image file: `format` "PNG", "BMP", ..., or by the name's
+    // extension when null.
+    bool SavePicture(const CString& path, const char* format = nullptr) const;
 
 private:
     std::shared_ptr<seisplot::PixelImage> m_picture;
@@ -39,6 +40,7 @@ private:
 class CButton : public CWnd {};
 
 namespace seisplot {
-// Writes a bitmap to an image file (PNG, BMP, ... by the name's extension).
-bool SaveBitmap(const CBitmap& bitmap, const CString& path);
+// Writes a bitmap to an image file: `format` "PNG", "BMP", ..., or by the name's extension
+// when null.
+bool SaveBitmap(const CBitmap& bitmap, const CString& path, const char* format = nullptr);
 } // namespace seisplot

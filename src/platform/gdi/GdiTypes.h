@@ -2,6 +2,7 @@
 // The drawing framework's constants and plain structures, as host code spells them.
 
 #include "platform/core/CPoint.h"
+#include "platform/core/LogFont.h"
 
 using LPPOINT = POINT*;
 using LPRECT = RECT*;
@@ -15,9 +16,15 @@ using HDC = CDC*;
 constexpr COLORREF RGB(int r, int g, int b) {
     return static_cast<COLORREF>((r & 0xFF) | ((g & 0xFF) << 8) | ((b & 0xFF) << 16));
 }
-constexpr BYTE GetRValue(COLORREF c) { return static_cast<BYTE>(c & 0xFF); }
-constexpr BYTE GetGValue(COLORREF c) { return static_cast<BYTE>((c >> 8) & 0xFF); }
-constexpr BYTE GetBValue(COLORREF c) { return static_cast<BYTE>((c >> 16) & 0xFF); }
+constexpr BYTE GetRValue(COLORREF c) {
+    return static_cast<BYTE>(c & 0xFF);
+}
+constexpr BYTE GetGValue(COLORREF c) {
+    return static_cast<BYTE>((c >> 8) & 0xFF);
+}
+constexpr BYTE GetBValue(COLORREF c) {
+    return static_cast<BYTE>((c >> 16) & 0xFF);
+}
 inline constexpr COLORREF CLR_INVALID = 0xFFFFFFFF;
 
 // Mapping modes
@@ -104,25 +111,6 @@ inline constexpr LONG FW_NORMAL = 400;
 inline constexpr LONG FW_BOLD = 700;
 inline constexpr BYTE ANSI_CHARSET = 0;
 inline constexpr BYTE SYMBOL_CHARSET = 2;
-inline constexpr int LF_FACESIZE = 32;
-
-struct LOGFONTA {
-    LONG lfHeight = 0;
-    LONG lfWidth = 0;
-    LONG lfEscapement = 0;
-    LONG lfOrientation = 0;
-    LONG lfWeight = 0;
-    BYTE lfItalic = 0;
-    BYTE lfUnderline = 0;
-    BYTE lfStrikeOut = 0;
-    BYTE lfCharSet = 0;
-    BYTE lfOutPrecision = 0;
-    BYTE lfClipPrecision = 0;
-    BYTE lfQuality = 0;
-    BYTE lfPitchAndFamily = 0;
-    char lfFaceName[LF_FACESIZE] = {};
-};
-using LOGFONT = LOGFONTA;
 
 struct TEXTMETRICA {
     LONG tmHeight = 0;

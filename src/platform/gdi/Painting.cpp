@@ -21,12 +21,14 @@ QColor DeviceColours::operator()(COLORREF c) const {
 namespace {
 
 // The framework's rectangle (x1, y1)-(x2, y2) in device pixels, normalised; its right and
-// bottom edges lie outside it.
+// bottom edges lie outside the figure. A painter outlines a rectangle one pixel beyond its
+// width, and fills it without a pen to its width: the frame is one pixel narrower, so an
+// outline ends at x2 - 1 and a figure without a pen fills up to x2 - 2, as the framework does.
 QRect FrameOf(const DrawCall& call) {
     const CPoint a = call.device[0];
     const CPoint b = call.device[1];
     return QRect(QPoint(std::min(a.x, b.x), std::min(a.y, b.y)),
-                 QPoint(std::max(a.x, b.x) - 1, std::max(a.y, b.y) - 1));
+                 QPoint(std::max(a.x, b.x) - 2, std::max(a.y, b.y) - 2));
 }
 
 QPen PenOf(const DrawCall& call, const DeviceColours& colours) {
@@ -50,7 +52,8 @@ QPen PenOf(const DrawCall& call, const DeviceColours& colours) {
 
 QBrush BrushOf(const DrawCall& call, const DeviceColours& colours) {
     switch (call.brush.style) {
-    case BS_SOLID: return QBrush(colours(call.brush.color));
+    case BS_SOLID:
+        return QBrush(colours(call.brush.color));
     case BS_HATCHED: {
         static constexpr Qt::BrushStyle hatches[] = {Qt::HorPattern,   Qt::VerPattern,
                                                      Qt::FDiagPattern, Qt::BDiagPattern,
@@ -75,7 +78,8 @@ QBrush BrushOf(const DrawCall& call, const DeviceColours& colours) {
         }
         return QBrush(tile);
     }
-    default: return Qt::NoBrush;
+    default:
+        return Qt::NoBrush;
     }
 }
 
@@ -107,8 +111,9 @@ void PaintText(QPainter& painter, const DrawCall& call, const DeviceColours& col
     painter.translate(call.device[0].x, call.device[0].y);
     painter.rotate(-call.textAngle);
     if (call.bkMode == OPAQUE) {
-        painter.fillRect(QRectF(x, y - metrics.ascent(), width, metrics.ascent() + metrics.descent()),
-                         colours(call.bkColor));
+        painter.fillRect(
+            QRectF(x, y - metrics.ascent(), width, metrics.ascent() + metrics.descent()),
+            colours(call.bkColor));
     }
     painter.setFont(font);
     painter.setPen(colours(call.textColor));
@@ -187,9 +192,12 @@ void PaintCall(QPainter& painter, const DrawCall& call, const DeviceColours& col
         }
         break;
     }
-    case DrawOp::Text: PaintText(painter, call, colours); break;
+    case DrawOp::Text:
+        PaintText(painter, call, colours);
+        break;
     case DrawOp::SetPixel:
-    case DrawOp::Blit: break;
+    case DrawOp::Blit:
+        break;
     }
 }
 

@@ -10,20 +10,10 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
-
 namespace {
 
 constexpr COLORREF kWhite = 0xFFFFFF;
 constexpr COLORREF kRed = 0x0000FF;
-
-std::string Contents(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
 
 // A memory context on a white colour (or monochrome) bitmap of w by h pixels.
 struct Canvas {
@@ -83,13 +73,31 @@ TEST(DeviceContext, LineLeavesItsEndPixelAndStyledGaps) {
     EXPECT_EQ(c.dc.GetPixel(12, 2), kWhite);
     EXPECT_EQ(c.dc.GetCurrentPosition(), CPoint(12, 2));
 
+    // A rectangle's right and bottom edges lie outside it; without a pen it fills one less.
+    c.dc.Rectangle(20, 2, 28, 8);
+    EXPECT_EQ(c.dc.GetPixel(27, 7), kRed);
+    EXPECT_EQ(c.dc.GetPixel(28, 7), kWhite);
+    EXPECT_EQ(c.dc.GetPixel(27, 8), kWhite);
+    const CRect solid(20, 8, 24, 10);
+    c.dc.FillSolidRect(&solid, 0x00FF00);
+    EXPECT_EQ(c.dc.GetPixel(23, 9), 0x00FF00u);
+    EXPECT_EQ(c.dc.GetPixel(24, 9), kWhite);
+    c.dc.SelectStockObject(NULL_PEN);
+    c.dc.Rectangle(30, 2, 38, 8);
+    EXPECT_EQ(c.dc.GetPixel(36, 6), 0xFFFFFFu); // the stock white brush
+    c.dc.SelectStockObject(BLACK_BRUSH);
+    c.dc.Rectangle(30, 2, 38, 8);
+    EXPECT_EQ(c.dc.GetPixel(36, 6), 0u);
+    EXPECT_EQ(c.dc.GetPixel(37, 6), kWhite);
+
     CPen dot(PS_DOT, 1, 0);
     c.dc.SelectObject(&dot);
     c.dc.SetBkMode(TRANSPARENT);
     c.dc.MoveTo(0, 5);
     c.dc.LineTo(12, 5);
     // Three pixels on, three off; transparent gaps keep what was there.
-    const std::vector<COLORREF> expected{0, 0, 0, kWhite, kWhite, kWhite, 0, 0, 0, kWhite, kWhite, kWhite};
+    const std::vector<COLORREF> expected{0, 0, 0, kWhite, kWhite, kWhite,
+                                         0, 0, 0, kWhite, kWhite, kWhite};
     for (int x = 0; x < 12; ++x) {
         EXPECT_EQ(c.dc.GetPixel(x, 5), expected[x]) << x;
     }
@@ -243,6 +251,13 @@ TEST(DeviceContext, TextAlignmentCurrentPositionAndMetrics) {
     EXPECT_EQ(tm.tmHeight, tm.tmAscent + tm.tmDescent);
     EXPECT_GT(tm.tmAveCharWidth, 0);
 
+    // The stock font keeps its pixel size whatever the mapping mode.
+    CFont* mine = dc.SelectObject(CFont::FromStock(SYSTEM_FONT));
+    TEXTMETRICA stock;
+    dc.GetTextMetrics(&stock);
+    EXPECT_NEAR(stock.tmHeight, 18 * 2540 / 96, 4 * 2540 / 96); // about 18 pixels
+    dc.SelectObject(mine);
+
     dc.SetTextAlign(TA_UPDATECP);
     dc.MoveTo(100, 200);
     dc.TextOut(0, 0, "ab");
@@ -313,9 +328,9 @@ TEST(DeviceContext, WindowsAndDocuments) {
         doc->Ellipse(10, 10, 90, 60);
         EXPECT_TRUE(doc->Close());
     }
-    const std::string pdfText = Contents(pdf);
+    const std::string pdfText = dir.Read("page.pdf");
     EXPECT_EQ(pdfText.rfind("%PDF-", 0), 0u);
-    const std::string svgText = Contents(svg);
+    const std::string svgText = dir.Read("picture.svg");
     EXPECT_NE(svgText.find("<svg"), std::string::npos);
     EXPECT_NE(svgText.find("viewBox=\"0 0 200 100\""), std::string::npos);
 }
