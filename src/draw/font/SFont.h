@@ -39,4 +39,8 @@ public:
     unsigned long Color;
 
     static CRuntimeClass classSFont;
+
+private:
+    // Takes every field of `font`; the colour is not part of it.
+    void SetFont(const LOGFONTA& font);
 };

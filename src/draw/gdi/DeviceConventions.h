@@ -30,3 +30,9 @@ void getcolors(unsigned long unused, unsigned long* first, unsigned long* second
 double find_conv(double dx, double dy, double a, double b, double c, double d);
 // Rounds half away from zero.
 int rnd(double x);
+
+namespace seisplot {
+// Logical units per millimetre of the mapping modes that size things in millimetres
+// (MM_HIMETRIC 100, MM_LOMETRIC 10); 0 for the others, where such primitives draw nothing.
+int UnitsPerMillimetre(const CDC* dc);
+} // namespace seisplot

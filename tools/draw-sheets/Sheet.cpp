@@ -1,0 +1,102 @@
+#include "Sheet.h"
+
+#include "platform/gdi/CWnd.h"
+
+#include <cmath>
+#include <cstring>
+
+namespace drawsheets {
+namespace {
+
+constexpr int kLabelHeight = 330; // logical units of the label's characters
+constexpr int kMargin = 150;
+
+} // namespace
+
+CPoint Cell::At(double fx, double fy) const {
+    return CPoint(left + static_cast<int>(std::lround(fx * Width())),
+                  bottom + static_cast<int>(std::lround(fy * Height())));
+}
+
+int Cell::Across(double f) const {
+    return static_cast<int>(std::lround(f * Width()));
+}
+
+Sheet::Sheet(int widthPixels, int heightPixels, int columns, int rows)
+    : m_columns(columns), m_rows(rows) {
+    m_dc.CreateCompatibleDC(nullptr);
+    m_bitmap.CreateBitmap(widthPixels, heightPixels, 1, 32, nullptr);
+    m_previousBitmap = m_dc.SelectObject(&m_bitmap);
+    const CRect all(0, 0, widthPixels, heightPixels);
+    m_dc.FillSolidRect(&all, 0xFFFFFF);
+
+    m_dc.SetMapMode(MM_HIMETRIC);
+    CSize size(widthPixels, heightPixels);
+    m_dc.DPtoLP(&size);
+    m_width = size.cx;
+    m_height = size.cy;
+    m_dc.SetWindowOrg(0, m_height); // the bottom-left corner is (0, 0)
+
+    LOGFONT font;
+    font.lfHeight = -kLabelHeight;
+    font.lfWeight = FW_NORMAL;
+    std::strcpy(font.lfFaceName, "DejaVu Sans");
+    m_labelFont.CreateFontIndirect(&font);
+}
+
+Sheet::~Sheet() {
+    m_dc.SelectObject(m_previousBitmap);
+}
+
+Cell Sheet::Next(const char* label) {
+    const int column = m_next % m_columns;
+    const int row = m_next / m_columns;
+    ++m_next;
+    const int w = m_width / m_columns;
+    const int h = m_height / m_rows;
+    const int left = column * w;
+    const int top = m_height - row * h;
+
+    CPen frame(PS_SOLID, 0, 0xC8C8C8);
+    CPen* previousPen = m_dc.SelectObject(&frame);
+    CGdiObject* previousBrush = m_dc.SelectStockObject(NULL_BRUSH);
+    m_dc.Rectangle(left, top, left + w, top - h);
+    m_dc.SelectObject(previousPen);
+    m_dc.SelectObject(previousBrush);
+
+    CFont* previousFont = m_dc.SelectObject(&m_labelFont);
+    const int previousMode = m_dc.SetBkMode(TRANSPARENT);
+    const COLORREF previousColour = m_dc.SetTextColor(0x303030);
+    const UINT previousAlign = m_dc.SetTextAlign(TA_LEFT | TA_TOP);
+    m_dc.TextOut(left + kMargin, top - kMargin / 2, CString(label));
+    m_dc.SetTextAlign(previousAlign);
+    m_dc.SetTextColor(previousColour);
+    m_dc.SetBkMode(previousMode);
+    m_dc.SelectObject(previousFont);
+
+    return {left + kMargin, top - h + kMargin, left + w - kMargin,
+            top - kMargin - 2 * kLabelHeight};
+}
+
+void Sheet::Paste(const Cell& cell, CDC& source, int widthPixels, int heightPixels) {
+    CPoint corner(cell.left, cell.bottom);
+    m_dc.LPtoDP(&corner);
+    const int mode = m_dc.SetMapMode(MM_TEXT);
+    const CPoint origin = m_dc.SetWindowOrg(0, 0);
+    m_dc.BitBlt(corner.x, corner.y - heightPixels, widthPixels, heightPixels, &source, 0, 0,
+                SRCCOPY);
+    m_dc.SetWindowOrg(origin);
+    m_dc.SetMapMode(mode);
+}
+
+int Sheet::Pixels(int logical) const {
+    CSize size(logical, logical);
+    m_dc.LPtoDP(&size);
+    return size.cx;
+}
+
+bool Sheet::Save(const std::string& path) const {
+    return seisplot::SaveBitmap(m_bitmap, CString(path.c_str()));
+}
+
+} // namespace drawsheets

@@ -1,0 +1,55 @@
+#pragma once
+// A picture sheet: a white image drawn in hundredths of a millimetre with y up from its
+// bottom-left corner, split into a grid of labelled cells.
+
+#include "platform/gdi/CDC.h"
+
+#include <string>
+
+namespace drawsheets {
+
+// The drawing area of one cell, in logical units, below its label.
+struct Cell {
+    int left = 0;
+    int bottom = 0;
+    int right = 0;
+    int top = 0;
+
+    int Width() const { return right - left; }
+    int Height() const { return top - bottom; }
+    // The point at fractions (fx, fy) of the area from its bottom-left corner.
+    CPoint At(double fx, double fy) const;
+    // A length as a fraction of the area's width.
+    int Across(double f) const;
+};
+
+class Sheet {
+public:
+    Sheet(int widthPixels, int heightPixels, int columns, int rows);
+    ~Sheet();
+    Sheet(const Sheet&) = delete;
+    Sheet& operator=(const Sheet&) = delete;
+
+    CDC& Dc() { return m_dc; }
+    // Frames the next cell (left to right, top to bottom), writes `label` at its top and
+    // returns the area below it.
+    Cell Next(const char* label);
+    // Copies the whole picture of `source` (pixels, y down) to the bottom-left corner of `cell`.
+    void Paste(const Cell& cell, CDC& source, int widthPixels, int heightPixels);
+    // The size in pixels of a logical length.
+    int Pixels(int logical) const;
+    bool Save(const std::string& path) const;
+
+private:
+    CDC m_dc;
+    CBitmap m_bitmap;
+    CBitmap* m_previousBitmap = nullptr;
+    CFont m_labelFont;
+    int m_columns;
+    int m_rows;
+    int m_width; // logical
+    int m_height;
+    int m_next = 0;
+};
+
+} // namespace drawsheets

@@ -1,0 +1,13 @@
+#pragma once
+// The sheets draw_sheets renders; each fills the cells of one Sheet.
+
+#include "Sheet.h"
+
+namespace drawsheets {
+
+// Every line and area primitive.
+void DrawPrimitivesSheet(Sheet& sheet);
+// Arrows, dimension lines, symbols, section quarters and text.
+void DrawGlyphsSheet(Sheet& sheet);
+
+} // namespace drawsheets
