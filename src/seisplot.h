@@ -12,10 +12,20 @@
 #include "platform/core/ConsoleUserInterface.h"
 #include "platform/core/Exceptions.h"
 #include "platform/core/HeadlessUserInterface.h"
+#include "platform/core/ResourceModule.h"
 #include "platform/core/ScriptedUserInterface.h"
 #include "platform/core/StringTable.h"
 #include "platform/core/Types.h"
 #include "platform/core/UserInterface.h"
+#include "platform/ui/QtUserInterface.h"
+
+// Device contexts and their surfaces, windows
+#include "platform/gdi/CDC.h"
+#include "platform/gdi/CWnd.h"
+#include "platform/gdi/DocumentDC.h"
+#include "platform/gdi/GdiObjects.h"
+#include "platform/gdi/RecordingDC.h"
+#include "platform/gl/CurrentDevice.h"
 
 // The host's geometry, units, selection and numerics
 #include "host/Boxes.h"
@@ -41,5 +51,15 @@
 #include "spectra/Spectrum.h"
 #include "spectra/SpectrumColl.h"
 
-// Clipping
+// Drawing primitives and the font descriptor
 #include "draw/clip/Clip.h"
+#include "draw/font/SFont.h"
+#include "draw/gdi/Areas.h"
+#include "draw/gdi/Arrows.h"
+#include "draw/gdi/DeviceConventions.h"
+#include "draw/gdi/Lines.h"
+#include "draw/gdi/Symbols.h"
+#include "draw/gdi/Text.h"
+
+// Curve plots
+#include "plot/CurvePlot.h"

@@ -1,0 +1,110 @@
+#include "plot/PlotMapping_p.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace seisplot {
+
+double DisplayValue(const Units* units, unsigned char kind, double value) {
+    if (units == nullptr) {
+        return value;
+    }
+    switch (kind) {
+    case 1:
+        return units->L_U(value);
+    case 2:
+        return units->A_U(value);
+    case 3:
+        return units->V_U(value);
+    case 4:
+        return units->J_U(value);
+    case 5:
+        return units->F_U(value);
+    case 6:
+        return units->M_U(value);
+    case 7:
+        return units->Pr_U(value);
+    case 10:
+        return units->Acc_U(value);
+    case 11:
+        return units->Vel_U(value);
+    case 12:
+        return units->T_U(value);
+    default:
+        return value; // rotations, pure numbers and unknown kinds
+    }
+}
+
+CString UnitLabel(const Units* units, unsigned char kind) {
+    if (kind == 8) {
+        return "(rad)"; // fixed: it needs no unit system
+    }
+    if (units == nullptr) {
+        return CString();
+    }
+    switch (kind) {
+    case 1:
+        return units->GetWrapLString();
+    case 2:
+        return units->GetWrapAString();
+    case 5:
+        return units->GetWrapFString();
+    case 6:
+        return units->GetWrapMString();
+    case 10:
+        return units->GetWrapAccString();
+    case 11:
+        return units->GetWrapVelString();
+    case 12:
+        return units->GetWrapTiString();
+    default:
+        return CString();
+    }
+}
+
+double DisplayedCurve::HSpan3() const {
+    const double span =
+        m_exchange ? m_curve.GetMaxY() - m_curve.GetMinY() : m_curve.GetMaxX() - m_curve.GetMinX();
+    return Show(HKind(), 3.0 * std::fabs(span));
+}
+
+double DisplayedCurve::VSpan3() const {
+    const double span =
+        m_exchange ? m_curve.GetMaxX() - m_curve.GetMinX() : m_curve.GetMaxY() - m_curve.GetMinY();
+    return Show(VKind(), 3.0 * std::fabs(span));
+}
+
+CRect SetUpDrawingArea(CWnd* wnd, CDC* dc) {
+    dc->SetMapMode(MM_HIMETRIC);
+    if (dc->IsPrinting()) {
+        constexpr int side = 20000; // 200 mm whatever the paper
+        dc->SetWindowOrg(0, side);
+        return CRect(0, side, side, 0);
+    }
+    CRect area;
+    wnd->GetClientRect(&area);
+    dc->DPtoLP(&area);
+    dc->SetWindowOrg(0, -area.bottom);
+    // Converted again under the new origin: left 0, bottom 0, right = width, top = height.
+    wnd->GetClientRect(&area);
+    dc->DPtoLP(&area);
+    dc->IntersectClipRect(&area);
+    return area;
+}
+
+int HalfWidth(const nbox& box) {
+    return static_cast<unsigned short>(static_cast<LONGLONG>(box.Ddx())) / 2;
+}
+
+int HalfHeight(const nbox& box) {
+    return static_cast<unsigned short>(static_cast<LONGLONG>(box.Ddy())) / 2;
+}
+
+LONG PlotMapping::Truncate(double v) {
+    constexpr double low = std::numeric_limits<LONG>::min();
+    constexpr double high = std::numeric_limits<LONG>::max();
+    return std::isnan(v) ? 0 : static_cast<LONG>(std::clamp(v, low, high));
+}
+
+} // namespace seisplot
