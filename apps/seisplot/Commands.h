@@ -4,6 +4,7 @@
 // command line. A run that cannot do its work throws CommandError.
 
 #include "CommandLine.h"
+#include "PlotFiles.h"
 
 #include <iosfwd>
 #include <optional>
@@ -36,6 +37,13 @@ struct ShowOptions {
     FormatFlags format;
 };
 void RunShow(const ShowOptions& options, std::ostream& out);
+// plot SET.acc N --plot FILE
+struct RecordPlotOptions {
+    std::string set;
+    unsigned long record = 0;
+    PlotOptions plot;
+};
+void RunRecordPlot(const RecordPlotOptions& options, std::ostream& out);
 void AddRecordCommands(CLI::App& app, Action& action);
 
 // sinusoids -o SET.acc, rotate SET.acc NX [NY] --angle DEG -o SET.acc
@@ -69,6 +77,7 @@ struct SpectrumOptions {
     std::optional<double> dampingStep;
     double maxPeriod = 4.0;
     double periodStep = 0.01;
+    PlotOptions plot;
     FormatFlags format;
 };
 void RunSpectrum(const SpectrumOptions& options, std::ostream& out);
@@ -83,6 +92,7 @@ struct CodeOptions {
     std::optional<double> tcs;
     double maxPeriod = 4.0;
     double periodStep = 0.01;
+    PlotOptions plot;
     FormatFlags format;
 };
 void RunCode(const CodeOptions& options, std::ostream& out);
@@ -101,6 +111,7 @@ struct EnvelopeOptions {
     std::optional<double> percentile;
     std::string spectra;
     unsigned threads = 0;
+    PlotOptions plot;
     FormatFlags format;
 };
 // What a successful run gives besides its printout.

@@ -146,9 +146,19 @@ void RunDemo(const DemoOptions& options, std::ostream& out) {
     spectrum.dampingMax = 0.10;
     spectrum.dampingStep = 0.05;
     spectrum.format.csv = true;
+    spectrum.plot.file = (dir / "spectrum-1.png").string();
     ToFile(dir / "spectrum-1.csv", [&](std::ostream& text) { RunSpectrum(spectrum, text); });
+    RecordPlotOptions recordPlot;
+    recordPlot.set = set;
+    recordPlot.record = 1;
+    recordPlot.plot.file = (dir / "record-1.png").string();
+    std::ostringstream plotted;
+    RunRecordPlot(recordPlot, plotted);
     out << "\n3. Acceleration spectra of record 1 (" << records.GetAccelerogram(1).Identifier
-        << ") at dampings 0.05 and 0.10: " << (dir / "spectrum-1.csv").string() << '\n';
+        << ") at dampings 0.05 and 0.10: " << (dir / "spectrum-1.csv").string()
+        << "\n   plotted in " << (dir / "record-1.png").string() << " (the record), "
+        << (dir / "spectrum-1-xi0.050.png").string() << " and "
+        << (dir / "spectrum-1-xi0.100.png").string() << '\n';
 
     // 4. Envelope over the horizontal pairs (east-west with north-south of each event).
     std::vector<unsigned long> pairRecords;
@@ -180,6 +190,7 @@ void RunDemo(const DemoOptions& options, std::ostream& out) {
         envelope.direction = 30.0;
         envelope.maxPeriod = 3.0;
         envelope.periodStep = 0.02;
+        envelope.plot.file = (dir / "envelope-pairs.png").string();
         EnvelopeSummary summary;
         ToFile(dir / "envelope-pairs.txt",
                [&](std::ostream& text) { summary = RunEnvelope(envelope, text); });
@@ -187,6 +198,7 @@ void RunDemo(const DemoOptions& options, std::ostream& out) {
                "Envelope of the pairs of records " + envelope.records +
                    " along 30 degrees, T up to 3 s by 0.02 s",
                dir / "envelope-pairs.txt", summary);
+        out << "   plotted in " << *envelope.plot.file << '\n';
     }
 
     // 5. The 84th percentile of the horizontal records at the periods of a structure.
@@ -232,7 +244,8 @@ void AddDemoCommand(CLI::App& app, Action& action) {
     auto options = std::make_shared<DemoOptions>();
     CLI::App* command = app.add_subcommand(
         "demo", "Run the typical road on the sample records: import, list, spectra, two "
-                "envelopes with their EC8 rating, and both reports");
+                "envelopes with their EC8 rating, plots of a record, its spectra and the "
+                "envelope, and both reports");
     command->add_option("OUTDIR", options->outDir, "Folder for every result")
         ->capture_default_str();
     command->footer("The samples are read from " SEISPLOT_SAMPLES_DIR

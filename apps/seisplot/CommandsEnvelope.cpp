@@ -103,6 +103,11 @@ EnvelopeSummary RunEnvelope(const EnvelopeOptions& options, std::ostream& out) {
     }
     const bool complete = !options.percentile;
     const PCurve& curve = envelope.Curve;
+    if (options.plot.file) {
+        PCurve plotted = curve;
+        plotted.SetName(summary.title.c_str());
+        WritePlot(options.plot, plotted);
+    }
 
     if (options.format.Format() == OutputFormat::Json) {
         JsonValue points = JsonValue::array();
@@ -233,6 +238,7 @@ void AddEnvelopeCommand(CLI::App& app, Action& action) {
                         "Spectra archive to add the result to (created when missing)");
     command->add_option("--threads", options->threads, "Threads to compute on (0: one per core)")
         ->capture_default_str();
+    AddPlotOptions(*command, options->plot);
     AddFormatFlags(*command, options->format, true);
     command->footer("Ctrl-C cancels the run; nothing is written then.");
     SetAction(*command, action, options,

@@ -189,6 +189,17 @@ void RunShow(const ShowOptions& options, std::ostream& out) {
     }
 }
 
+void RunRecordPlot(const RecordPlotOptions& options, std::ostream& out) {
+    AccelerogramColl records;
+    LoadRecordSet(options.set, records);
+    Accelerogram& record = RecordAt(records, options.record, options.set);
+    PCurve curve = record.Record;
+    curve.SetName(record.Identifier);
+    WritePlot(options.plot, curve);
+    out << "Plot of record " << options.record << " (" << record.Identifier.GetString()
+        << ") written to " << *options.plot.file << '\n';
+}
+
 void AddRecordCommands(CLI::App& app, Action& action) {
     auto list = std::make_shared<ListOptions>();
     CLI::App* listCommand = app.add_subcommand(
@@ -206,6 +217,21 @@ void AddRecordCommands(CLI::App& app, Action& action) {
         ->check(CLI::PositiveNumber);
     AddFormatFlags(*showCommand, show->format, false);
     SetAction(*showCommand, action, show, [](const ShowOptions& o) { RunShow(o, std::cout); });
+
+    auto plot = std::make_shared<RecordPlotOptions>();
+    CLI::App* plotCommand = app.add_subcommand("plot", "Draw one record into a picture");
+    plotCommand->add_option("SET", plot->set, "Record set (*.acc)")->required();
+    plotCommand->add_option("N", plot->record, "Record number (from 1)")
+        ->required()
+        ->check(CLI::PositiveNumber);
+    plotCommand
+        ->add_option("-o,--output", plot->plot.file, "Picture: FILE.png, FILE.svg or FILE.pdf")
+        ->required();
+    plotCommand
+        ->add_option("--size", plot->plot.size, "Picture size WIDTHxHEIGHT in pixels (PNG, SVG)")
+        ->capture_default_str();
+    SetAction(*plotCommand, action, plot,
+              [](const RecordPlotOptions& o) { RunRecordPlot(o, std::cout); });
 }
 
 } // namespace seisplot::cli

@@ -53,15 +53,27 @@ void RunSpectrum(const SpectrumOptions& options, std::ostream& out) {
     Accelerogram& record = RecordAt(records, options.record, options.set);
 
     const bool ads = options.kind == "ads";
+    const char* heading = ads                     ? "Acceleration-displacement response spectrum"
+                          : options.kind == "acc" ? "Acceleration response spectrum"
+                                                  : "Displacement response spectrum";
     std::vector<Curve> curves;
     for (double damping : dampings) {
         Curve curve{damping, {}};
+        const CString title = (std::string(heading) + " of " + record.Identifier.GetString() +
+                               Printf(", damping %.1f%%", 100.0 * damping))
+                                  .c_str();
+        // Several dampings: one picture each, named by its damping.
+        const std::string suffix = dampings.size() > 1 ? Printf("-xi%.3f", damping) : "";
         int failed = 0;
         if (ads) {
             PMCurve result;
             failed = record.GetADSpectrum(damping, options.maxPeriod, options.periodStep, result);
             for (int i = 0; i < result.GetNP(); ++i) {
                 curve.points.emplace_back(result[i].GetX(), result[i].GetY() / Accelerogram::kG);
+            }
+            if (failed == 0 && !curve.points.empty() && options.plot.file) {
+                result.SetName(title);
+                WritePlot(options.plot, suffix, result);
             }
         } else {
             PCurve result;
@@ -72,6 +84,10 @@ void RunSpectrum(const SpectrumOptions& options, std::ostream& out) {
             for (int i = 0; i < result.GetNP(); ++i) {
                 curve.points.emplace_back(result[i].GetX(), result[i].GetY());
             }
+            if (failed == 0 && !curve.points.empty() && options.plot.file) {
+                result.SetName(title);
+                WritePlot(options.plot, suffix, result);
+            }
         }
         if (failed != 0 || curve.points.empty()) {
             Fail("no spectrum for record " + std::to_string(options.record) +
@@ -80,9 +96,6 @@ void RunSpectrum(const SpectrumOptions& options, std::ostream& out) {
         curves.push_back(std::move(curve));
     }
 
-    const char* heading = ads                     ? "Acceleration-displacement response spectrum"
-                          : options.kind == "acc" ? "Acceleration response spectrum"
-                                                  : "Displacement response spectrum";
     const char* xKey = ads ? "sd_mm" : "period_s";
     const char* yKey = ads ? "sa_g" : options.kind == "acc" ? "sa_g" : "sd_mm";
     if (options.format.Format() == OutputFormat::Json) {
@@ -169,6 +182,21 @@ void RunCode(const CodeOptions& options, std::ostream& out) {
     }
 
     const std::string kind = options.q == 1.0 ? "elastic" : "design";
+    if (options.plot.file) {
+        PCurve curve;
+        curve.XUnit = 12;
+        curve.YUnit = 9;
+        curve.XName = "T";
+        curve.YName = "Se(T) [g]";
+        for (const auto& [period, se] : points) {
+            curve.AddPoint(period, se);
+        }
+        curve.SetName(
+            (std::string(ntc ? "NTC " : "EC8 type 2 ") + kind +
+             Printf(" spectrum, ag %.3f g, soil %c, q %.2f", options.ag, soilLetter, options.q))
+                .c_str());
+        WritePlot(options.plot, curve);
+    }
     if (options.format.Format() == OutputFormat::Json) {
         JsonValue list = JsonValue::array();
         for (const auto& [period, se] : points) {
@@ -235,6 +263,7 @@ void AddSpectrumCommands(CLI::App& app, Action& action) {
     command->add_option("--dt", spectrum->periodStep, "Period step (s)")
         ->check(kPositive)
         ->capture_default_str();
+    AddPlotOptions(*command, spectrum->plot);
     AddFormatFlags(*command, spectrum->format, true);
     SetAction(*command, action, spectrum,
               [](const SpectrumOptions& o) { RunSpectrum(o, std::cout); });
@@ -270,6 +299,7 @@ void AddSpectrumCommands(CLI::App& app, Action& action) {
     codeCommand->add_option("--dt", code->periodStep, "Period step (s)")
         ->check(kPositive)
         ->capture_default_str();
+    AddPlotOptions(*codeCommand, code->plot);
     AddFormatFlags(*codeCommand, code->format, true);
     SetAction(*codeCommand, action, code, [](const CodeOptions& o) { RunCode(o, std::cout); });
 }

@@ -170,6 +170,9 @@ TEST(CliUsage, BadCommandLinesGiveStatusTwoAndSayWhy) {
          "--direction requires --pairs"},
         {{"sinusoids", "--count", "0", "-o", "x.acc"}, "--count"},
         {{"rotate", event.set, "1"}, "--angle is required"},
+        {{"plot", event.set, "1", "-o", "a.jpg"}, "the picture must be a .png, .svg or .pdf file"},
+        {{"code", "ec8", "--ag", "0.2", "--soil", "B", "--plot", "a.png", "--size", "99x600"},
+         "--size 99x600: give WIDTHxHEIGHT in pixels, each 100 to 20000"},
     };
     for (const auto& c : cases) {
         const CliResult r = event.Run(c.args);
@@ -178,11 +181,36 @@ TEST(CliUsage, BadCommandLinesGiveStatusTwoAndSayWhy) {
         EXPECT_EQ(r.out, "");
     }
     for (const char* command : {"import", "list", "show", "spectrum", "envelope", "code", "report",
-                                "report-spectrum", "sinusoids", "rotate", "demo"}) {
+                                "report-spectrum", "sinusoids", "rotate", "plot", "demo"}) {
         const CliResult r = event.Run({command, "--help"});
         EXPECT_EQ(r.status, 0) << command;
         EXPECT_THAT(r.out, HasSubstr(std::string("Usage: seisplot ") + command)) << command;
     }
+}
+
+TEST(CliRecords, PlotsArePicturesOfTheAskedKindAndSize) {
+    EventSet event;
+    const std::string png = event.dir.Path("record.png");
+    CliResult r = event.Run({"plot", event.set, "2", "-o", png, "--size", "640x480"});
+    ASSERT_EQ(r.status, 0) << r.err;
+    EXPECT_THAT(r.out, HasSubstr("Plot of record 2 (EV_N.ASC) written to " + png));
+    // The PNG signature, then the header chunk with the width and height (big-endian).
+    const std::string bytes = event.dir.Read("record.png");
+    ASSERT_GT(bytes.size(), 24u);
+    EXPECT_EQ(bytes.substr(0, 8), "\x89PNG\r\n\x1a\n");
+    EXPECT_EQ(bytes.substr(16, 8), std::string("\0\0\x02\x80\0\0\x01\xe0", 8));
+
+    r = event.Run({"spectrum", event.set, "1", "--tmax", "1", "--dt", "0.1", "--plot",
+                   event.dir.Path("sa.svg")});
+    ASSERT_EQ(r.status, 0) << r.err;
+    const std::string svg = event.dir.Read("sa.svg");
+    EXPECT_THAT(svg, HasSubstr("viewBox=\"0 0 800 600\""));
+    EXPECT_THAT(svg, HasSubstr("Acceleration response spectrum of EV_E.ASC, damping 5.0%"));
+
+    r = event.Run(
+        {"code", "ec8", "--ag", "0.25", "--soil", "B", "--plot", event.dir.Path("ec8.pdf")});
+    ASSERT_EQ(r.status, 0) << r.err;
+    EXPECT_EQ(event.dir.Read("ec8.pdf").substr(0, 5), "%PDF-");
 }
 
 TEST(CliRecords, ShowRotateAndSinusoidsMatchTheLibrary) {

@@ -27,7 +27,9 @@ TEST(CliSamples, DemoWritesEveryResult) {
     ASSERT_EQ(r.status, 0) << r.err;
     for (const char* file :
          {"records.acc", "import.txt", "list.txt", "spectrum-1.csv", "envelope-pairs.txt",
-          "envelope-modes.txt", "spectra.spc", "record-1-report.txt", "spectrum-1-report.txt"}) {
+          "envelope-modes.txt", "spectra.spc", "record-1-report.txt", "spectrum-1-report.txt",
+          "record-1.png", "spectrum-1-xi0.050.png", "spectrum-1-xi0.100.png",
+          "envelope-pairs.png"}) {
         EXPECT_TRUE(fs::exists(fs::path(out) / file)) << file;
         EXPECT_THAT(r.out, HasSubstr(file));
     }

@@ -1,0 +1,28 @@
+#pragma once
+// Plots of curves written to picture files: PNG (a raster image), SVG (a vector picture of
+// the same size) or PDF (a printed page: the plot's 200 mm square).
+
+#include "CommandLine.h"
+
+#include "host/PCurve.h"
+
+#include <optional>
+#include <string>
+
+namespace seisplot::cli {
+
+struct PlotOptions {
+    std::optional<std::string> file; // --plot FILE.png|FILE.svg|FILE.pdf
+    std::string size = "800x600";    // --size WxH, pixels (PNG and SVG)
+};
+void AddPlotOptions(CLI::App& command, PlotOptions& options);
+
+// Writes the plot of `curve`; fails (CommandError) on an unknown extension, a bad size or a
+// file that cannot be written.
+void WritePlot(const PlotOptions& options, PCurve& curve);
+void WritePlot(const PlotOptions& options, PMCurve& curve);
+// The same with `suffix` put before the extension ("a.png", "-2" -> "a-2.png").
+void WritePlot(const PlotOptions& options, const std::string& suffix, PCurve& curve);
+void WritePlot(const PlotOptions& options, const std::string& suffix, PMCurve& curve);
+
+} // namespace seisplot::cli
