@@ -8,13 +8,13 @@
 
 class RPoly;
 
-int triangle(CDC* dc, unsigned long colour, unsigned char style, long x1, long y1, long x2,
-             long y2, long x3, long y3);
+int triangle(CDC* dc, unsigned long colour, unsigned char style, long x1, long y1, long x2, long y2,
+             long x3, long y3);
 int rectangle(CDC* dc, const CPoint& p1, const CPoint& p2, unsigned long colour, int style);
 int rectangle(CDC* dc, unsigned long colour, int style, int x1, int y1, int x2, int y2);
 int rectangleX(CDC* dc, const CPoint& p1, const CPoint& p2);
-int polygon(CDC* dc, CPoint* points, int count, unsigned long fillColour,
-            unsigned long lineColour, int width);
+int polygon(CDC* dc, CPoint* points, int count, unsigned long fillColour, unsigned long lineColour,
+            int width);
 int polygon(CDC* dc, CPoint* points, int count, unsigned long colour, int width);
 int mixpolygon(CDC* dc, CPoint* points, int count, unsigned long firstColour,
                unsigned long secondColour, int width, int style);

@@ -24,11 +24,11 @@ struct CDC::State {
     seisplot::DeviceClip clip;
 
     CPen* pen = CPen::FromStock(BLACK_PEN);
-    seisplot::PenSpec penSpec;
+    seisplot::PenAttributes penAttributes;
     CBrush* brush = CBrush::FromStock(WHITE_BRUSH);
-    seisplot::BrushSpec brushSpec{BS_SOLID, 0xFFFFFF, 0, nullptr};
+    seisplot::BrushAttributes brushAttributes{BS_SOLID, 0xFFFFFF, 0, nullptr};
     CFont* font = CFont::FromStock(SYSTEM_FONT);
-    LOGFONTA fontSpec = CFont::FromStock(SYSTEM_FONT)->Spec();
+    LOGFONTA fontAttributes = CFont::FromStock(SYSTEM_FONT)->Attributes();
 
     int rop2 = R2_COPYPEN;
     int bkMode = OPAQUE;
@@ -251,7 +251,7 @@ CPen* CDC::SelectObject(CPen* pen) {
     if (pen == nullptr || pen->GetSafeHandle() == nullptr) {
         return nullptr;
     }
-    m_state->penSpec = pen->Spec();
+    m_state->penAttributes = pen->Attributes();
     return std::exchange(m_state->pen, pen);
 }
 
@@ -259,7 +259,7 @@ CBrush* CDC::SelectObject(CBrush* brush) {
     if (brush == nullptr || brush->GetSafeHandle() == nullptr) {
         return nullptr;
     }
-    m_state->brushSpec = brush->Spec();
+    m_state->brushAttributes = brush->Attributes();
     return std::exchange(m_state->brush, brush);
 }
 
@@ -267,7 +267,7 @@ CFont* CDC::SelectObject(CFont* font) {
     if (font == nullptr || font->GetSafeHandle() == nullptr) {
         return nullptr;
     }
-    m_state->fontSpec = font->Spec();
+    m_state->fontAttributes = font->Attributes();
     return std::exchange(m_state->font, font);
 }
 
@@ -380,16 +380,16 @@ DrawCall CDC::Resolve(DrawOp op, std::vector<CPoint> logical) const {
         call.device.push_back(ToDevice(p.x, p.y));
     }
     call.logical = std::move(logical);
-    call.pen = s.penSpec;
-    call.penDeviceWidth = PenPixels(s.penSpec.width);
-    call.brush = s.brushSpec;
+    call.pen = s.penAttributes;
+    call.penDeviceWidth = PenPixels(s.penAttributes.width);
+    call.brush = s.brushAttributes;
     call.mapMode = s.mapMode;
     call.rop2 = s.rop2;
     call.bkMode = s.bkMode;
     call.bkColor = s.bkColor;
     call.textColor = s.textColor;
     call.textAlign = s.textAlign;
-    call.font = s.fontSpec;
+    call.font = s.fontAttributes;
     return call;
 }
 
@@ -481,16 +481,16 @@ BOOL CDC::TextOut(int x, int y, LPCTSTR text, int count) {
     const bool updateCp = (s.textAlign & TA_UPDATECP) != 0;
     DrawCall call = Resolve(DrawOp::Text, {updateCp ? s.position : CPoint(x, y)});
     call.text = CString(text, count);
-    call.fontPixelHeight = FontPixels(s.fontSpec);
+    call.fontPixelHeight = FontPixels(s.fontAttributes);
     // Escapement turns the text about its reference point; where y points up the turn
     // appears the other way round on the device.
-    const double escapement = s.fontSpec.lfEscapement / 10.0;
+    const double escapement = s.fontAttributes.lfEscapement / 10.0;
     call.textAngle = s.ScaleY() < 0 ? -escapement : escapement;
     Submit(call);
     if (updateCp) {
-        const QFont font = seisplot::QtFontOf(s.fontSpec, call.fontPixelHeight);
+        const QFont font = seisplot::QtFontOf(s.fontAttributes, call.fontPixelHeight);
         const double advance =
-            QFontMetricsF(font).horizontalAdvance(seisplot::QtTextOf(s.fontSpec, call.text));
+            QFontMetricsF(font).horizontalAdvance(seisplot::QtTextOf(s.fontAttributes, call.text));
         const double a = call.textAngle * std::numbers::pi / 180.0;
         m_state->position.x += RoundToLong(advance * std::cos(a) / s.ScaleX());
         m_state->position.y += RoundToLong(-advance * std::sin(a) / s.ScaleY());
@@ -500,10 +500,10 @@ BOOL CDC::TextOut(int x, int y, LPCTSTR text, int count) {
 
 CSize CDC::GetTextExtent(LPCTSTR text, int count) const {
     const State& s = *m_state;
-    const QFont font = seisplot::QtFontOf(s.fontSpec, FontPixels(s.fontSpec));
+    const QFont font = seisplot::QtFontOf(s.fontAttributes, FontPixels(s.fontAttributes));
     const QFontMetricsF metrics(font);
     const double width = metrics.horizontalAdvance(
-        seisplot::QtTextOf(s.fontSpec, CString(text, std::max(0, count))));
+        seisplot::QtTextOf(s.fontAttributes, CString(text, std::max(0, count))));
     const double height = metrics.ascent() + metrics.descent();
     return CSize(RoundToLong(width / std::abs(s.ScaleX())),
                  RoundToLong(height / std::abs(s.ScaleY())));
@@ -514,7 +514,7 @@ BOOL CDC::GetTextMetrics(TEXTMETRICA* tm) const {
         return FALSE;
     }
     const State& s = *m_state;
-    const QFont font = seisplot::QtFontOf(s.fontSpec, FontPixels(s.fontSpec));
+    const QFont font = seisplot::QtFontOf(s.fontAttributes, FontPixels(s.fontAttributes));
     const QFontMetricsF metrics(font);
     const double sy = std::abs(s.ScaleY());
     const double sx = std::abs(s.ScaleX());
@@ -525,11 +525,11 @@ BOOL CDC::GetTextMetrics(TEXTMETRICA* tm) const {
     tm->tmExternalLeading = RoundToLong(metrics.leading() / sy);
     tm->tmAveCharWidth = RoundToLong(metrics.averageCharWidth() / sx);
     tm->tmMaxCharWidth = RoundToLong(metrics.maxWidth() / sx);
-    tm->tmWeight = s.fontSpec.lfWeight == 0 ? FW_NORMAL : s.fontSpec.lfWeight;
-    tm->tmItalic = s.fontSpec.lfItalic;
-    tm->tmUnderlined = s.fontSpec.lfUnderline;
-    tm->tmStruckOut = s.fontSpec.lfStrikeOut;
-    tm->tmCharSet = s.fontSpec.lfCharSet;
+    tm->tmWeight = s.fontAttributes.lfWeight == 0 ? FW_NORMAL : s.fontAttributes.lfWeight;
+    tm->tmItalic = s.fontAttributes.lfItalic;
+    tm->tmUnderlined = s.fontAttributes.lfUnderline;
+    tm->tmStruckOut = s.fontAttributes.lfStrikeOut;
+    tm->tmCharSet = s.fontAttributes.lfCharSet;
     return TRUE;
 }
 

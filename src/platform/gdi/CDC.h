@@ -94,7 +94,9 @@ public:
     BOOL Polyline(const POINT* points, int count);
     BOOL Polygon(const POINT* points, int count);
     BOOL Rectangle(int x1, int y1, int x2, int y2);
-    BOOL Rectangle(LPCRECT rect) { return Rectangle(rect->left, rect->top, rect->right, rect->bottom); }
+    BOOL Rectangle(LPCRECT rect) {
+        return Rectangle(rect->left, rect->top, rect->right, rect->bottom);
+    }
     BOOL Ellipse(int x1, int y1, int x2, int y2);
     BOOL Ellipse(LPCRECT rect) { return Ellipse(rect->left, rect->top, rect->right, rect->bottom); }
     // Arcs and pies run counter-clockwise, as seen, from the radial through (x3, y3) to the

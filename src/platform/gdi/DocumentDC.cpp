@@ -58,12 +58,14 @@ public:
                 const CRect s = call.sourceRect;
                 const QRect to(QPoint(call.device[0].x, call.device[0].y),
                                QPoint(call.device[1].x - 1, call.device[1].y - 1));
-                m_painter.drawImage(to.normalized(),
-                                    source->image.copy(QRect(s.left, s.top, s.Width(), s.Height())));
+                m_painter.drawImage(to.normalized(), source->image.copy(QRect(
+                                                         s.left, s.top, s.Width(), s.Height())));
             }
             break;
         }
-        default: PaintCall(m_painter, call, colours); break;
+        default:
+            PaintCall(m_painter, call, colours);
+            break;
         }
     }
 

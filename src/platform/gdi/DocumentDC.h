@@ -11,8 +11,8 @@ namespace seisplot {
 class DocumentDC : public CDC {
 public:
     // A PDF of pages `widthMm` by `heightMm`, drawn at `dpi` device pixels per inch.
-    static std::unique_ptr<DocumentDC> OpenPdf(const CString& path, double widthMm,
-                                               double heightMm, int dpi = 600);
+    static std::unique_ptr<DocumentDC> OpenPdf(const CString& path, double widthMm, double heightMm,
+                                               int dpi = 600);
     // An SVG picture of `width` by `height` pixels at `dpi`.
     static std::unique_ptr<DocumentDC> OpenSvg(const CString& path, int width, int height,
                                                int dpi = 96);

@@ -15,9 +15,9 @@ struct DrawCall {
     DrawOp op = DrawOp::Line;
     std::vector<CPoint> logical; // the points as the caller gave them
     std::vector<CPoint> device;  // the same points in device pixels
-    PenSpec pen;
+    PenAttributes pen;
     int penDeviceWidth = 1; // the pen's width in pixels (at least 1)
-    BrushSpec brush;
+    BrushAttributes brush;
     int mapMode = MM_TEXT;
     int rop2 = R2_COPYPEN;
     int bkMode = OPAQUE;

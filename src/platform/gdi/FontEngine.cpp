@@ -78,7 +78,9 @@ QString InstalledFace(const char* face) {
 
 } // namespace
 
-bool IsSymbolFace(const LOGFONTA& font) { return SameFace(font.lfFaceName, "Symbol"); }
+bool IsSymbolFace(const LOGFONTA& font) {
+    return SameFace(font.lfFaceName, "Symbol");
+}
 
 QFont QtFontOf(const LOGFONTA& font, int pixelHeight) {
     EnsureGuiApplication();
@@ -97,7 +99,8 @@ QFont QtFontOf(const LOGFONTA& font, int pixelHeight) {
         const QFontMetricsF m(f);
         const double cell = m.ascent() + m.descent();
         if (cell > 0) {
-            f.setPixelSize(std::max(1, static_cast<int>(std::lround(pixelHeight * pixelHeight / cell))));
+            f.setPixelSize(
+                std::max(1, static_cast<int>(std::lround(pixelHeight * pixelHeight / cell))));
         }
     }
     return f;
@@ -119,44 +122,119 @@ QString SymbolFaceText(const CString& text) {
             u = upper[c - 'A'];
         } else {
             switch (c) {
-            case '"': u = u'∀'; break;
-            case '$': u = u'∃'; break;
-            case '\'': u = u'∋'; break;
-            case '*': u = u'∗'; break;
-            case '-': u = u'−'; break;
-            case '@': u = u'≅'; break;
-            case '\\': u = u'∴'; break;
-            case '^': u = u'⊥'; break;
-            case '~': u = u'∼'; break;
-            case 0xA1: u = u'ϒ'; break;
-            case 0xA2: u = u'′'; break;
-            case 0xA3: u = u'≤'; break;
-            case 0xA5: u = u'∞'; break;
-            case 0xAB: u = u'↔'; break;
-            case 0xAC: u = u'←'; break;
-            case 0xAD: u = u'↑'; break;
-            case 0xAE: u = u'→'; break;
-            case 0xAF: u = u'↓'; break;
-            case 0xB0: u = u'°'; break;
-            case 0xB1: u = u'±'; break;
-            case 0xB2: u = u'″'; break;
-            case 0xB3: u = u'≥'; break;
-            case 0xB4: u = u'×'; break;
-            case 0xB5: u = u'∝'; break;
-            case 0xB6: u = u'∂'; break;
-            case 0xB7: u = u'•'; break;
-            case 0xB8: u = u'÷'; break;
-            case 0xB9: u = u'≠'; break;
-            case 0xBA: u = u'≡'; break;
-            case 0xBB: u = u'≈'; break;
-            case 0xC6: u = u'∅'; break;
-            case 0xD0: u = u'∠'; break;
-            case 0xD1: u = u'∇'; break;
-            case 0xD6: u = u'√'; break;
-            case 0xD7: u = u'⋅'; break;
-            case 0xE5: u = u'∑'; break;
-            case 0xF2: u = u'∫'; break;
-            default: break;
+            case '"':
+                u = u'∀';
+                break;
+            case '$':
+                u = u'∃';
+                break;
+            case '\'':
+                u = u'∋';
+                break;
+            case '*':
+                u = u'∗';
+                break;
+            case '-':
+                u = u'−';
+                break;
+            case '@':
+                u = u'≅';
+                break;
+            case '\\':
+                u = u'∴';
+                break;
+            case '^':
+                u = u'⊥';
+                break;
+            case '~':
+                u = u'∼';
+                break;
+            case 0xA1:
+                u = u'ϒ';
+                break;
+            case 0xA2:
+                u = u'′';
+                break;
+            case 0xA3:
+                u = u'≤';
+                break;
+            case 0xA5:
+                u = u'∞';
+                break;
+            case 0xAB:
+                u = u'↔';
+                break;
+            case 0xAC:
+                u = u'←';
+                break;
+            case 0xAD:
+                u = u'↑';
+                break;
+            case 0xAE:
+                u = u'→';
+                break;
+            case 0xAF:
+                u = u'↓';
+                break;
+            case 0xB0:
+                u = u'°';
+                break;
+            case 0xB1:
+                u = u'±';
+                break;
+            case 0xB2:
+                u = u'″';
+                break;
+            case 0xB3:
+                u = u'≥';
+                break;
+            case 0xB4:
+                u = u'×';
+                break;
+            case 0xB5:
+                u = u'∝';
+                break;
+            case 0xB6:
+                u = u'∂';
+                break;
+            case 0xB7:
+                u = u'•';
+                break;
+            case 0xB8:
+                u = u'÷';
+                break;
+            case 0xB9:
+                u = u'≠';
+                break;
+            case 0xBA:
+                u = u'≡';
+                break;
+            case 0xBB:
+                u = u'≈';
+                break;
+            case 0xC6:
+                u = u'∅';
+                break;
+            case 0xD0:
+                u = u'∠';
+                break;
+            case 0xD1:
+                u = u'∇';
+                break;
+            case 0xD6:
+                u = u'√';
+                break;
+            case 0xD7:
+                u = u'⋅';
+                break;
+            case 0xE5:
+                u = u'∑';
+                break;
+            case 0xF2:
+                u = u'∫';
+                break;
+            default:
+                break;
             }
         }
         out.append(QChar(u));
@@ -165,7 +243,8 @@ QString SymbolFaceText(const CString& text) {
 }
 
 QString QtTextOf(const LOGFONTA& font, const CString& text) {
-    return IsSymbolFace(font) ? SymbolFaceText(text) : QString::fromLatin1(text.GetString(), text.GetLength());
+    return IsSymbolFace(font) ? SymbolFaceText(text)
+                              : QString::fromLatin1(text.GetString(), text.GetLength());
 }
 
 } // namespace seisplot

@@ -15,13 +15,19 @@ int g_creationsLeft = -1; // negative: unlimited
 
 namespace seisplot {
 
-int LiveGdiObjects() { return g_live; }
+int LiveGdiObjects() {
+    return g_live;
+}
 
-void FailGdiCreationAfter(int successes) { g_creationsLeft = successes; }
+void FailGdiCreationAfter(int successes) {
+    g_creationsLeft = successes;
+}
 
 } // namespace seisplot
 
-CGdiObject::~CGdiObject() { DeleteObject(); }
+CGdiObject::~CGdiObject() {
+    DeleteObject();
+}
 
 bool CGdiObject::Create() {
     if (m_created || g_creationsLeft == 0) {
@@ -54,7 +60,7 @@ BOOL CPen::CreatePen(int style, int width, COLORREF color) {
     if (!Create()) {
         return FALSE;
     }
-    m_spec = {style, width, color};
+    m_attributes = {style, width, color};
     return TRUE;
 }
 
@@ -64,16 +70,20 @@ CPen* CPen::FromStock(int index) {
         for (CPen* p : {&black, &white, &none}) {
             p->MarkStock();
         }
-        white.m_spec.color = 0xFFFFFF;
-        none.m_spec.style = PS_NULL;
+        white.m_attributes.color = 0xFFFFFF;
+        none.m_attributes.style = PS_NULL;
         return true;
     }();
     (void)made;
     switch (index) {
-    case WHITE_PEN: return &white;
-    case NULL_PEN: return &none;
-    case BLACK_PEN: return &black;
-    default: return nullptr;
+    case WHITE_PEN:
+        return &white;
+    case NULL_PEN:
+        return &none;
+    case BLACK_PEN:
+        return &black;
+    default:
+        return nullptr;
     }
 }
 
@@ -87,7 +97,7 @@ BOOL CBrush::CreateSolidBrush(COLORREF color) {
     if (!Create()) {
         return FALSE;
     }
-    m_spec = {BS_SOLID, color, 0, nullptr};
+    m_attributes = {BS_SOLID, color, 0, nullptr};
     return TRUE;
 }
 
@@ -95,7 +105,7 @@ BOOL CBrush::CreateHatchBrush(int hatchStyle, COLORREF color) {
     if (!Create()) {
         return FALSE;
     }
-    m_spec = {BS_HATCHED, color, hatchStyle, nullptr};
+    m_attributes = {BS_HATCHED, color, hatchStyle, nullptr};
     return TRUE;
 }
 
@@ -104,7 +114,7 @@ BOOL CBrush::CreatePatternBrush(CBitmap* bitmap) {
         return FALSE;
     }
     // The brush keeps its own copy: the bitmap may change or go afterwards.
-    m_spec = {BS_PATTERN, 0, 0, std::make_shared<seisplot::PixelImage>(*bitmap->Pixels())};
+    m_attributes = {BS_PATTERN, 0, 0, std::make_shared<seisplot::PixelImage>(*bitmap->Pixels())};
     return TRUE;
 }
 
@@ -114,16 +124,20 @@ CBrush* CBrush::FromStock(int index) {
         for (CBrush* b : {&white, &black, &none}) {
             b->MarkStock();
         }
-        white.m_spec.color = 0xFFFFFF;
-        none.m_spec.style = BS_NULL;
+        white.m_attributes.color = 0xFFFFFF;
+        none.m_attributes.style = BS_NULL;
         return true;
     }();
     (void)made;
     switch (index) {
-    case WHITE_BRUSH: return &white;
-    case BLACK_BRUSH: return &black;
-    case NULL_BRUSH: return &none;
-    default: return nullptr;
+    case WHITE_BRUSH:
+        return &white;
+    case BLACK_BRUSH:
+        return &black;
+    case NULL_BRUSH:
+        return &none;
+    default:
+        return nullptr;
     }
 }
 
@@ -131,8 +145,8 @@ BOOL CFont::CreateFontIndirect(const LOGFONTA* logFont) {
     if (logFont == nullptr || !Create()) {
         return FALSE;
     }
-    m_spec = *logFont;
-    m_spec.lfFaceName[LF_FACESIZE - 1] = '\0';
+    m_attributes = *logFont;
+    m_attributes.lfFaceName[LF_FACESIZE - 1] = '\0';
     return TRUE;
 }
 
@@ -140,7 +154,7 @@ int CFont::GetLogFont(LOGFONTA* logFont) const {
     if (logFont == nullptr || GetSafeHandle() == nullptr) {
         return 0;
     }
-    *logFont = m_spec;
+    *logFont = m_attributes;
     return static_cast<int>(sizeof(LOGFONTA));
 }
 
@@ -148,8 +162,8 @@ CFont* CFont::FromStock(int index) {
     static CFont system;
     static const bool made = [] {
         system.MarkStock();
-        system.m_spec.lfHeight = 16;
-        system.m_spec.lfWeight = FW_BOLD;
+        system.m_attributes.lfHeight = 16;
+        system.m_attributes.lfWeight = FW_BOLD;
         return true;
     }();
     (void)made;

@@ -16,14 +16,14 @@ namespace seisplot {
 
 struct PixelImage; // the pixels of a bitmap (private)
 
-struct PenSpec {
+struct PenAttributes {
     int style = PS_SOLID;
     int width = 0; // logical units
     COLORREF color = 0;
-    bool operator==(const PenSpec&) const = default;
+    bool operator==(const PenAttributes&) const = default;
 };
 
-struct BrushSpec {
+struct BrushAttributes {
     int style = BS_SOLID;
     COLORREF color = 0;
     int hatch = 0;
@@ -70,11 +70,11 @@ public:
     // Throws CResourceException* when the pen cannot be created.
     CPen(int style, int width, COLORREF color);
     BOOL CreatePen(int style, int width, COLORREF color);
-    const seisplot::PenSpec& Spec() const { return m_spec; }
+    const seisplot::PenAttributes& Attributes() const { return m_attributes; }
     static CPen* FromStock(int index);
 
 private:
-    seisplot::PenSpec m_spec;
+    seisplot::PenAttributes m_attributes;
 };
 
 class CBitmap;
@@ -86,11 +86,11 @@ public:
     BOOL CreateSolidBrush(COLORREF color);
     BOOL CreateHatchBrush(int hatchStyle, COLORREF color);
     BOOL CreatePatternBrush(CBitmap* bitmap);
-    const seisplot::BrushSpec& Spec() const { return m_spec; }
+    const seisplot::BrushAttributes& Attributes() const { return m_attributes; }
     static CBrush* FromStock(int index);
 
 private:
-    seisplot::BrushSpec m_spec;
+    seisplot::BrushAttributes m_attributes;
 };
 
 class CFont : public CGdiObject {
@@ -98,11 +98,11 @@ public:
     CFont() : CGdiObject(Kind::Font) {}
     BOOL CreateFontIndirect(const LOGFONTA* logFont);
     int GetLogFont(LOGFONTA* logFont) const;
-    const LOGFONTA& Spec() const { return m_spec; }
+    const LOGFONTA& Attributes() const { return m_attributes; }
     static CFont* FromStock(int index);
 
 private:
-    LOGFONTA m_spec;
+    LOGFONTA m_attributes;
 };
 
 struct BITMAP {

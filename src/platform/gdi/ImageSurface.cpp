@@ -69,14 +69,17 @@ public:
         case DrawOp::SetPixel:
             Plot(call.device[0].x, call.device[0].y, colours(call.color).rgb(), R2_COPYPEN);
             return;
-        case DrawOp::Blit: Blit(call); return;
+        case DrawOp::Blit:
+            Blit(call);
+            return;
         case DrawOp::Line:
             if (call.penDeviceWidth <= 1) {
                 ThinLine(call, colours);
                 return;
             }
             break;
-        default: break;
+        default:
+            break;
         }
         if (call.rop2 == R2_COPYPEN || call.op == DrawOp::Text) {
             QPainter painter(&m_pixels->image);
@@ -177,9 +180,9 @@ private:
     }
 
     void Blit(const DrawCall& call) {
-        const PixelImage* source =
-            call.source != nullptr && call.source->GetSurface() ? call.source->GetSurface()->Pixels()
-                                                                : nullptr;
+        const PixelImage* source = call.source != nullptr && call.source->GetSurface()
+                                       ? call.source->GetSurface()->Pixels()
+                                       : nullptr;
         if (source == nullptr) {
             return;
         }
@@ -194,8 +197,9 @@ private:
         QImage piece = source->image.copy(from).convertToFormat(QImage::Format_RGB32);
         const bool flipX = (dw < 0) != (s.Width() < 0);
         const bool flipY = (dh < 0) != (s.Height() < 0);
-        piece = piece.mirrored(flipX, flipY).scaled(std::abs(dw), std::abs(dh), Qt::IgnoreAspectRatio,
-                                                    Qt::FastTransformation);
+        piece =
+            piece.mirrored(flipX, flipY)
+                .scaled(std::abs(dw), std::abs(dh), Qt::IgnoreAspectRatio, Qt::FastTransformation);
         const int left = std::min(call.device[0].x, call.device[1].x);
         const int top = std::min(call.device[0].y, call.device[1].y);
         const bool invert = call.rop == SRCINVERT;

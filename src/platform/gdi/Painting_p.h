@@ -10,7 +10,9 @@ namespace seisplot {
 
 struct PixelImage;
 
-inline QColor QtColorOf(COLORREF c) { return QColor(GetRValue(c), GetGValue(c), GetBValue(c)); }
+inline QColor QtColorOf(COLORREF c) {
+    return QColor(GetRValue(c), GetGValue(c), GetBValue(c));
+}
 
 // Colours as the device shows them: on a monochrome device only black and white.
 struct DeviceColours {

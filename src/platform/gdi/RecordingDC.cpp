@@ -9,9 +9,8 @@ class RecordingSurface final : public Surface {
 public:
     explicit RecordingSurface(RecordingDevice device) : m_device(device) {}
     DeviceCaps Caps() const override {
-        return {m_device.width,     m_device.height,     m_device.dpi,
-                m_device.dpi,       m_device.numColors,  m_device.technology,
-                m_device.printing};
+        return {m_device.width,     m_device.height,     m_device.dpi,     m_device.dpi,
+                m_device.numColors, m_device.technology, m_device.printing};
     }
     void Draw(const DrawCall& call, const DeviceClip&) override { calls.push_back(call); }
     std::vector<DrawCall> calls;
@@ -28,7 +27,11 @@ RecordingDC::RecordingDC(RecordingDevice device)
 RecordingDC::RecordingDC(std::shared_ptr<Surface> surface)
     : CDC(surface), m_calls(&static_cast<RecordingSurface&>(*surface).calls) {}
 
-const std::vector<DrawCall>& RecordingDC::Calls() const { return *m_calls; }
-void RecordingDC::Clear() { m_calls->clear(); }
+const std::vector<DrawCall>& RecordingDC::Calls() const {
+    return *m_calls;
+}
+void RecordingDC::Clear() {
+    m_calls->clear();
+}
 
 } // namespace seisplot

@@ -131,7 +131,7 @@ TEST(Areas, FilletSwapsItsEndsAndFillsTheCornerSquare) {
     EXPECT_THAT(Shapes(dc), ElementsAre("R 0,0 10,10", "W 0,0 20,20 0,10 10,0"));
     EXPECT_EQ(dc.Calls()[0].brush.color, kRed);
     EXPECT_EQ(dc.Calls()[1].brush.color, kWhite);
-    EXPECT_EQ(dc.Calls()[1].pen, (seisplot::PenSpec{PS_SOLID, 10, kWhite}));
+    EXPECT_EQ(dc.Calls()[1].pen, (seisplot::PenAttributes{PS_SOLID, 10, kWhite}));
     dc.Clear();
     quart_circl(&dc, 0, 10, 0, 0, 0, 0, 10, kRed, kWhite); // already in turning order
     EXPECT_THAT(Shapes(dc), ElementsAre("R 0,0 10,10", "W 0,0 20,20 0,10 10,0"));
@@ -164,11 +164,11 @@ TEST(Areas, PolygonPensAndTwoColourEdges) {
     EXPECT_THAT(Shapes(dc),
                 ElementsAre("L 0,0 100,0", "L 0,0 100,0", "L 100,0 100,100", "L 100,0 100,100",
                             "L 100,100 0,100", "L 100,100 0,100", "L 0,100 0,0", "L 0,100 0,0"));
-    EXPECT_EQ(dc.Calls()[1].pen, (seisplot::PenSpec{PS_DOT, 1, kBlue}));
+    EXPECT_EQ(dc.Calls()[1].pen, (seisplot::PenAttributes{PS_DOT, 1, kBlue}));
     dc.Clear();
     mixpolygon(&dc, square, 4, kRed, kBlue, 20, 2);
     EXPECT_EQ(dc.Calls().at(0).op, seisplot::DrawOp::Polygon);
-    EXPECT_EQ(dc.Calls()[0].pen, (seisplot::PenSpec{PS_SOLID, 1, kRed}));
+    EXPECT_EQ(dc.Calls()[0].pen, (seisplot::PenAttributes{PS_SOLID, 1, kRed}));
     EXPECT_EQ(dc.Calls().size(), 9u);
     dc.Clear();
     EXPECT_EQ(mixpolygon(&dc, square, 0, kRed, kBlue, 20, 2), 0);

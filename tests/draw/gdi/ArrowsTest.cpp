@@ -29,7 +29,7 @@ TEST(ArrowsTest, QuoteHeadsAreThirtyDegreesOffWithTwiceTheHeightInY) {
     Quote(&dc, 0x0000FF, from, to, 11);
     EXPECT_THAT(Shapes(dc), ElementsAre("L 0,0 1000,0", "L 914,-99 1000,0", "L 914,99 1000,0",
                                         "L 86,99 0,0", "L 86,-99 0,0"));
-    EXPECT_EQ(dc.Calls()[1].pen, (seisplot::PenSpec{PS_SOLID, 1, 0x0000FF}));
+    EXPECT_EQ(dc.Calls()[1].pen, (seisplot::PenAttributes{PS_SOLID, 1, 0x0000FF}));
 
     dc.Clear();
     Quote(&dc, 0x0000FF, 0, 0, 1000, 0, 12); // single head, at `to`
@@ -79,14 +79,14 @@ TEST(ArrowsTest, LoadArrowPlacementHeadsAndDecorations) {
     ArwLine(&dc, &view, a, b, 0, 0x0000FF, 0x00FF00);
     EXPECT_THAT(Shapes(dc), ElementsAre("L 0,0 600,0", "L 0,0 100,37", "L 0,0 100,-37"));
     for (const DrawCall& call : dc.Calls()) {
-        EXPECT_EQ(call.pen, (seisplot::PenSpec{PS_SOLID, 10, 0x000000}));
+        EXPECT_EQ(call.pen, (seisplot::PenAttributes{PS_SOLID, 10, 0x000000}));
     }
 
     // Style 1 ends at A with its body on the far side of B: from (-600, 0) to (0, 0).
     dc.Clear();
     ArwLine(&dc, &view, a, b, 1, 0x0000FF, 0x00FF00);
     EXPECT_THAT(Shapes(dc), ElementsAre("P 0,0 -100,37 -100,-37", "L -600,0 -100,0"));
-    EXPECT_EQ(dc.Calls()[0].pen, (seisplot::PenSpec{PS_SOLID, 1, 0x0000FF}));
+    EXPECT_EQ(dc.Calls()[0].pen, (seisplot::PenAttributes{PS_SOLID, 1, 0x0000FF}));
     EXPECT_EQ(dc.Calls()[0].brush.color, 0x00FF00u);
 
     // Style 3 runs across A, from (-300, 0) to (300, 0), with a dot of radius 600/15 at A.
@@ -94,7 +94,7 @@ TEST(ArrowsTest, LoadArrowPlacementHeadsAndDecorations) {
     ArwLine(&dc, &view, a, b, 3, 0x0000FF, 0x00FF00);
     EXPECT_THAT(Shapes(dc),
                 ElementsAre("P 300,0 200,37 200,-37", "L -300,0 200,0", "E -40,-40 40,40"));
-    EXPECT_EQ(dc.Calls()[2].pen, (seisplot::PenSpec{PS_SOLID, 10, 0x00FF00}));
+    EXPECT_EQ(dc.Calls()[2].pen, (seisplot::PenAttributes{PS_SOLID, 10, 0x00FF00}));
     const std::vector<std::string> style3 = Shapes(dc);
 
     // Even styles add a second head behind the first; the shaft stops at its base.

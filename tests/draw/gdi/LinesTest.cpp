@@ -83,7 +83,7 @@ TEST(Lines, LayerLineColoursByValueClass) {
         MetricDC dc(-1);
         EXPECT_EQ(layer_line(&dc, CPoint(0, 0), CPoint(1000, 0), c.value, c.kind, classes, 7), 0);
         ASSERT_EQ(dc.Calls().size(), 1u);
-        EXPECT_EQ(dc.Calls()[0].pen, (seisplot::PenSpec{PS_SOLID, 7, c.colour}));
+        EXPECT_EQ(dc.Calls()[0].pen, (seisplot::PenAttributes{PS_SOLID, 7, c.colour}));
     }
     MetricDC text(-1, MM_TEXT);
     EXPECT_EQ(layer_line(&text, CPoint(0, 0), CPoint(1000, 0), 0.5, 1, classes, 7), 0);
@@ -99,8 +99,8 @@ TEST(Lines, LayerLineMarkersOnMonochromeDevices) {
     };
     auto open = draw(0.1); // class 1: the triangle's base 66 below M, its apex 133 above
     EXPECT_THAT(Shapes(*open), ElementsAre("L 0,0 1001,501", "P 434,184 566,184 500,383"));
-    EXPECT_EQ(open->Calls()[0].pen, (seisplot::PenSpec{PS_SOLID, 30, 0}));
-    EXPECT_EQ(open->Calls()[1].pen, (seisplot::PenSpec{PS_SOLID, 1, 0}));
+    EXPECT_EQ(open->Calls()[0].pen, (seisplot::PenAttributes{PS_SOLID, 30, 0}));
+    EXPECT_EQ(open->Calls()[1].pen, (seisplot::PenAttributes{PS_SOLID, 1, 0}));
     EXPECT_EQ(open->Calls()[1].brush.style, BS_NULL);
     EXPECT_EQ(draw(1.1)->Calls()[1].brush.style, BS_SOLID); // class 6: filled
 
@@ -108,7 +108,7 @@ TEST(Lines, LayerLineMarkersOnMonochromeDevices) {
     auto crossed = draw(0.5);
     EXPECT_THAT(Shapes(*crossed), ElementsAre("L 0,0 1001,501", "R 400,350 600,150",
                                               "L 400,150 600,350", "L 400,350 600,150"));
-    EXPECT_EQ(crossed->Calls()[2].pen, seisplot::PenSpec{});
+    EXPECT_EQ(crossed->Calls()[2].pen, seisplot::PenAttributes{});
     EXPECT_EQ(draw(1.3)->Calls()[1].brush.style, BS_SOLID); // class 7: filled square
 
     // Class 5: circle with an upright cross; class 8 filled; class 0 an open circle.
@@ -133,7 +133,7 @@ TEST(Lines, SpringStrokesAndTurningPoints) {
                             "L 700,-100 800,100", "L 900,-100 1000,100", "L 200,100 300,-100",
                             "L 400,100 500,-100", "L 600,100 700,-100", "L 800,100 900,-100",
                             "L 0,0 100,-100", "L 1100,0 1000,100"));
-    EXPECT_EQ(dc.Calls()[0].pen, (seisplot::PenSpec{PS_SOLID, 3, kRed}));
+    EXPECT_EQ(dc.Calls()[0].pen, (seisplot::PenAttributes{PS_SOLID, 3, kRed}));
 
     dc.Clear();
     EXPECT_EQ(linespr(&dc, from, from, 11.0, kRed, 3), 0);
