@@ -42,18 +42,6 @@ void Note(CDC& dc, CPoint at, const std::string& text) {
     outx(&dc, text.c_str(), at.x, at.y, Font(7, 0x505050), 0.0);
 }
 
-// Vertical stripes of four palette colours over the right part of `cell`, from fraction `from`.
-void Stripes(CDC& dc, const Cell& cell, double from) {
-    const unsigned long colours[] = {torgb(11), torgb(14), torgb(8), torgb(10)};
-    const int n = 8;
-    const int x0 = cell.At(from, 0).x;
-    const int w = (cell.right - x0) / n;
-    for (int i = 0; i < n; ++i) {
-        const CRect r(x0 + i * w, cell.top, x0 + (i + 1) * w, cell.bottom);
-        dc.FillSolidRect(&r, colours[i % 4]);
-    }
-}
-
 // The point at `length` from `from` in the direction `degrees`.
 CPoint Towards(CPoint from, double degrees, int length) {
     const double a = degrees * kPi / 180;

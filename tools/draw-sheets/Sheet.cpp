@@ -1,5 +1,7 @@
 #include "Sheet.h"
 
+#include "draw/gdi/DeviceConventions.h"
+
 #include "platform/gdi/CWnd.h"
 
 #include <cmath>
@@ -97,6 +99,17 @@ int Sheet::Pixels(int logical) const {
 
 bool Sheet::Save(const std::string& path) const {
     return seisplot::SaveBitmap(m_bitmap, CString(path.c_str()));
+}
+
+void Stripes(CDC& dc, const Cell& cell, double from) {
+    const unsigned long colours[] = {torgb(11), torgb(14), torgb(8), torgb(10)};
+    const int n = 8;
+    const int x0 = cell.At(from, 0).x;
+    const int w = (cell.right - x0) / n;
+    for (int i = 0; i < n; ++i) {
+        const CRect r(x0 + i * w, cell.top, x0 + (i + 1) * w, cell.bottom);
+        dc.FillSolidRect(&r, colours[i % 4]);
+    }
 }
 
 } // namespace drawsheets

@@ -23,6 +23,10 @@ struct Cell {
     int Across(double f) const;
 };
 
+// Vertical stripes of four palette colours over the right part of `cell`, from fraction `from`:
+// a busy background for the inverting primitives.
+void Stripes(CDC& dc, const Cell& cell, double from);
+
 class Sheet {
 public:
     Sheet(int widthPixels, int heightPixels, int columns, int rows);

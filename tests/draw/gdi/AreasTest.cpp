@@ -27,13 +27,6 @@ constexpr unsigned long kRed = 0x0000FF;
 constexpr unsigned long kGreen = 0x00FF00;
 constexpr unsigned long kBlue = 0xFF0000;
 
-struct HimetricDC : RecordingDC {
-    explicit HimetricDC(int numColors = -1)
-        : RecordingDC(RecordingDevice{1000, 1000, 96, numColors}) {
-        SetMapMode(MM_HIMETRIC);
-    }
-};
-
 } // namespace
 
 TEST(Areas, InvertingFiguresVanishWhenDrawnTwice) {
@@ -126,7 +119,7 @@ TEST(Areas, HatchGapsFollowTheBackgroundMode) {
 
 TEST(Areas, FilletSwapsItsEndsAndFillsTheCornerSquare) {
     // Q (0, 0), A (0, 10), B (10, 0): the ends swap; the arc is about K (10, 10).
-    HimetricDC dc;
+    MetricDC dc;
     EXPECT_EQ(quart_circl(&dc, 0, 0, 10, 0, 0, 10, 0, kRed, kWhite), 0);
     EXPECT_THAT(Shapes(dc), ElementsAre("R 0,0 10,10", "W 0,0 20,20 0,10 10,0"));
     EXPECT_EQ(dc.Calls()[0].brush.color, kRed);
@@ -147,7 +140,7 @@ TEST(Areas, FilletSwapsItsEndsAndFillsTheCornerSquare) {
 }
 
 TEST(Areas, PolygonPensAndTwoColourEdges) {
-    HimetricDC dc;
+    MetricDC dc;
     CPoint square[] = {{0, 0}, {100, 0}, {100, 100}, {0, 100}};
     polygon(&dc, square, 4, kBlue, kRed, 0);
     polygon(&dc, square, 4, kBlue, kRed, -1);
@@ -280,7 +273,7 @@ TEST(Areas, EveryPrimitiveLeavesTheContextAsFound) {
          1, 0},
     };
 
-    HimetricDC warmUp; // the checkerboard brush lives for the whole process
+    MetricDC warmUp; // the checkerboard brush lives for the whole process
     mixpolygon(&warmUp, pts, 4, kRed, kBlue, kGreen, 3);
 
     for (const Primitive& p : primitives) {
@@ -289,7 +282,7 @@ TEST(Areas, EveryPrimitiveLeavesTheContextAsFound) {
             if (failing && !p.failed) {
                 continue;
             }
-            HimetricDC dc(p.monochrome ? 2 : -1);
+            MetricDC dc(p.monochrome ? 2 : -1);
             CPen pen(PS_DASH, 1, 0x010203);
             CBrush brush(0x040506);
             dc.SelectObject(&pen);

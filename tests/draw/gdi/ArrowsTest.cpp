@@ -13,16 +13,10 @@ using seisplot::DrawCall;
 using testing::ElementsAre;
 using testing::UnorderedElementsAre;
 
-namespace {
-
-struct HimetricDC : seisplot::RecordingDC {
-    HimetricDC() { SetMapMode(MM_HIMETRIC); }
-};
-
-} // namespace
+namespace {} // namespace
 
 TEST(ArrowsTest, QuoteHeadsAreThirtyDegreesOffWithTwiceTheHeightInY) {
-    HimetricDC dc;
+    MetricDC dc;
     const CPoint from(0, 0);
     const CPoint to(1000, 0);
     // Along x: (trunc(100·cos 30°), trunc(200·sin 30°)) = (86, 99).
@@ -49,7 +43,7 @@ TEST(ArrowsTest, QuoteHeadsAreThirtyDegreesOffWithTwiceTheHeightInY) {
 }
 
 TEST(ArrowsTest, ArrowAndDoubleArrowHeads) {
-    HimetricDC dc;
+    MetricDC dc;
     Arrow(&dc, CPoint(0, 0), CPoint(1000, 0), 0x00FF00, 5);
     // The head is a fifth of the length long and a tenth of it to each side.
     EXPECT_THAT(Shapes(dc), ElementsAre("L 0,0 1000,0", "P 1000,0 800,-100 800,100"));
@@ -69,7 +63,7 @@ TEST(ArrowsTest, ArrowAndDoubleArrowHeads) {
 }
 
 TEST(ArrowsTest, LoadArrowPlacementHeadsAndDecorations) {
-    HimetricDC dc;
+    MetricDC dc;
     nbox view(0, 0, 5000, 5000);
     const CPoint a(0, 0);
     const CPoint b(600, 0);

@@ -19,14 +19,6 @@ namespace {
 constexpr COLORREF kRed = 0x0000FF;
 constexpr COLORREF kBlue = 0xFF0000;
 
-// A recorder in a metric mapping mode, colour or monochrome.
-struct MetricDC : RecordingDC {
-    explicit MetricDC(int numColors, int mode = MM_HIMETRIC)
-        : RecordingDC(RecordingDevice{1000, 1000, 96, numColors}) {
-        SetMapMode(mode);
-    }
-};
-
 } // namespace
 
 TEST(Lines, RubberBandSegmentVanishesWhenDrawnTwice) {

@@ -42,6 +42,16 @@ struct Canvas {
     }
 };
 
+// A recorder in a metric mapping mode, colour (-1) or monochrome (2).
+struct MetricDC : seisplot::RecordingDC {
+    explicit MetricDC(int numColors = -1, int mode = MM_HIMETRIC)
+        : MetricDC(seisplot::RecordingDevice{1000, 1000, 96, numColors}, mode) {}
+    explicit MetricDC(seisplot::RecordingDevice device, int mode = MM_HIMETRIC)
+        : RecordingDC(device) {
+        SetMapMode(mode);
+    }
+};
+
 // Each call as a letter and its logical points, e.g. "L 0,0 1000,0": Line, Polygon, Rectangle,
 // Ellipse, Arc (A), Pie (W).
 inline std::vector<std::string> Shapes(const seisplot::RecordingDC& dc) {

@@ -16,15 +16,9 @@ using testing::ElementsAre;
 
 namespace {
 
-struct HimetricDC : RecordingDC {
-    explicit HimetricDC(RecordingDevice device = {}) : RecordingDC(device) {
-        SetMapMode(MM_HIMETRIC);
-    }
-};
-
 // The expected pieces of a profile quarter, drawn with the primitives they are made of.
 struct Pieces {
-    HimetricDC dc;
+    MetricDC dc;
     void Fill(int x1, int y1, int x2, int y2) { rectangle(&dc, 0x808080, 2, x1, y1, x2, y2); }
     void Taper(int x1, int y1, int x2, int y2, int x3, int y3) {
         triangle(&dc, 0x808080, 2, x1, y1, x2, y2, x3, y3);
@@ -37,7 +31,7 @@ struct Pieces {
 } // namespace
 
 TEST(SymbolsTest, MarkersAreSizedInMillimetres) {
-    HimetricDC dc;
+    MetricDC dc;
     const CPoint at(1000, 2000);
     // Size 2: S = 200 units, h = 100.
     Symbol(&dc, 0x0000FF, 1, at, 2);
@@ -57,7 +51,7 @@ TEST(SymbolsTest, MarkersAreSizedInMillimetres) {
     EXPECT_EQ(dc.Calls()[3].color, 0x0000FFu);
 
     // On a printer a dot is a disc of radius S/20.
-    HimetricDC printer(RecordingDevice{.technology = DT_RASPRINTER, .printing = true});
+    MetricDC printer(RecordingDevice{.technology = DT_RASPRINTER, .printing = true});
     Symbol(&printer, 0x0000FF, 4, at, 2);
     EXPECT_THAT(Shapes(printer), ElementsAre("E 940,2023 960,2043"));
     EXPECT_EQ(printer.Calls()[0].brush.style, BS_SOLID);
@@ -75,7 +69,7 @@ TEST(SymbolsTest, ParallelFlangeQuarterRoundsAndMirrors) {
     // k = 10.5 puts several lengths on a half: t·k = 52.5 -> 53, (t + r)·k = 115.5 -> 116,
     // (b - rr)·k = 493.5 -> 494, (h - rr)·k = 52.5 -> 53; h·k = 84, (h + r)·k = 147.
     const double b = 50, t = 5, h = 8, r = 6, rr = 3, k = 10.5;
-    HimetricDC up;
+    MetricDC up;
     bootL_displ(&up, 2, 1000, 500, b, t, h, r, rr, k, 0x808080, 0xFFFFFF);
     Pieces want;
     want.Fill(1000, 500, 1053, 647);
@@ -88,7 +82,7 @@ TEST(SymbolsTest, ParallelFlangeQuarterRoundsAndMirrors) {
     EXPECT_EQ(Shapes(up), Shapes(want.dc));
 
     // Orientation 0 mirrors about y = 500; the fillet's unit moves to the flange's level.
-    HimetricDC down;
+    MetricDC down;
     bootL_displ(&down, 0, 1000, 500, b, t, h, r, rr, k, 0x808080, 0xFFFFFF);
     Pieces mirrored;
     const auto m = [](int y) { return 1000 - y; };
@@ -101,9 +95,9 @@ TEST(SymbolsTest, ParallelFlangeQuarterRoundsAndMirrors) {
     EXPECT_EQ(Shapes(down), Shapes(mirrored.dc));
 
     // Without taper the tapered quarter is the same outline plus a flat triangle.
-    HimetricDC flat;
+    MetricDC flat;
     boot_displ(&flat, 1, 1000, 500, b, t, h, r, rr, 0.0, k, 0x808080, 0xFFFFFF);
-    HimetricDC parallel;
+    MetricDC parallel;
     bootL_displ(&parallel, 1, 1000, 500, b, t, h, r, rr, k, 0x808080, 0xFFFFFF);
     std::vector<std::string> shapes = Shapes(flat);
     ASSERT_EQ(shapes.size(), Shapes(parallel).size() + 1);
@@ -115,7 +109,7 @@ TEST(SymbolsTest, ParallelFlangeQuarterRoundsAndMirrors) {
 TEST(SymbolsTest, TaperedQuarterTowardsMinusX) {
     // d = (50 - 5 - 6 - 3)·0.14 / 2 = 2.52: the flange is 10.52 thick at the fillet, 5.48 at
     // the tip; k = 10, x mirrored about 1000.
-    HimetricDC got;
+    MetricDC got;
     boot_displ(&got, 3, 1000, 500, 50, 5, 8, 6, 3, 0.14, 10, 0x808080, 0xFFFFFF);
     Pieces want;
     want.Fill(1000, 500, 950, 665);
@@ -129,7 +123,7 @@ TEST(SymbolsTest, TaperedQuarterTowardsMinusX) {
 }
 
 TEST(SymbolsTest, TowerQuarter) {
-    HimetricDC got;
+    MetricDC got;
     tower_displ(&got, 1, 0, 0, 30, 20, 4, 1.0, 0x808080, 0xFFFFFF);
     Pieces want;
     want.Fill(0, 0, -20, -26);
