@@ -362,9 +362,10 @@ int CDC::PenPixels(int width) const {
 }
 
 int CDC::FontPixels(const LOGFONTA& font) const {
-    // The stock font is a device font: its size does not follow the mapping mode.
+    // The stock font is a device font: its size (16 pixels on a 96 dpi screen, 12 points on
+    // any device) does not follow the mapping mode.
     if (font.lfHeight == 0 || m_state->font == CFont::FromStock(SYSTEM_FONT)) {
-        return 16; // the framework's default size on a 96 dpi screen
+        return std::max(1, m_state->Caps().dpiY / 6);
     }
     const int pixels = std::max(
         1, static_cast<int>(std::lround(std::abs(font.lfHeight) * std::abs(m_state->ScaleY()))));

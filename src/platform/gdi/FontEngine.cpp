@@ -10,9 +10,13 @@
 #include <QGuiApplication>
 
 #include <array>
+#include <cerrno>
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <string>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace seisplot {
 
@@ -24,6 +28,13 @@ void EnsureGuiApplication() {
     if (std::getenv("QT_QPA_PLATFORM") == nullptr && std::getenv("DISPLAY") == nullptr &&
         std::getenv("WAYLAND_DISPLAY") == nullptr) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    // Qt wants a private runtime folder and complains on every start without one.
+    if (std::getenv("XDG_RUNTIME_DIR") == nullptr) {
+        const std::string runtime = "/tmp/seisplot-runtime-" + std::to_string(::getuid());
+        if (::mkdir(runtime.c_str(), 0700) == 0 || errno == EEXIST) {
+            ::setenv("XDG_RUNTIME_DIR", runtime.c_str(), 0);
+        }
     }
     static int argc = 1;
     static char name[] = "seisplot";
