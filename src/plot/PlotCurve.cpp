@@ -3,6 +3,7 @@
 #include "draw/gdi/Lines.h"
 #include "draw/gdi/Text.h"
 #include "host/Mathp.h"
+#include "platform/core/Product.h"
 #include "plot/PlotEngine_p.h"
 #include "plot/PlotMapping_p.h"
 
@@ -13,10 +14,6 @@
 namespace seisplot {
 
 namespace {
-
-// The product line written along the right edge of every plot.
-constexpr const char* kCreditLine =
-    "seisplot - ground motion records, response spectra and engineering plots";
 
 constexpr int kAxisWidth = 50;
 constexpr int kTickWidth = 25;
@@ -179,7 +176,7 @@ void PlotCurve(const CurveBase& curve, CWnd* wnd, CDC* dc, int fill, const Units
     // Along the right edge, 1 mm inside it, at a 48th of the smaller side in points.
     const int m = dc->GetMapMode() == MM_LOMETRIC ? 10 : 100;
     const int size = static_cast<int>(std::min(box.Idx(), box.Idy()) * 72 / 48 / 25.4 / m);
-    OutTextCentered(dc, kCreditLine, area.right - m, area.top / 2, 900, SFont(size, 0));
+    OutTextCentered(dc, kProductLine, area.right - m, area.top / 2, 900, SFont(size, 0));
 }
 
 } // namespace seisplot

@@ -1,7 +1,10 @@
 #include "records/ReportBanner.h"
 
+#include "platform/core/Product.h"
+
 #include <cassert>
 #include <cstring>
+#include <string>
 
 namespace seisplot {
 
@@ -36,8 +39,8 @@ CString ReportBanner(const char* titleLine) {
     for (int k = 0; k < 6; ++k) {
         banner += empty;
     }
-    banner += BoxLine("  seisplot - ground motion records, response spectra and engineering plots");
-    banner += BoxLine("  seisplot developers");
+    banner += BoxLine((std::string("  ") + kProductLine).c_str());
+    banner += BoxLine((std::string("  ") + kProductMaker).c_str());
     banner += rule;
     return banner;
 }
