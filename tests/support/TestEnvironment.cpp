@@ -1,11 +1,6 @@
-// Linked into every test program: Qt draws offscreen (tests never need a display), and the
-// allocations that fontconfig keeps for the life of the process are not reported as leaks.
+// Linked into every test program: Qt draws offscreen, tests never need a display.
 
 #include <cstdlib>
-
-extern "C" const char* __lsan_default_suppressions() {
-    return "leak:libfontconfig\n";
-}
 
 namespace {
 

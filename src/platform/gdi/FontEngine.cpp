@@ -18,6 +18,12 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+// Fonts come through fontconfig, which keeps its configuration until the process ends: under
+// LeakSanitizer that is not a leak of ours.
+extern "C" const char* __lsan_default_suppressions() {
+    return "leak:libfontconfig\n";
+}
+
 namespace seisplot {
 
 void EnsureGuiApplication() {
