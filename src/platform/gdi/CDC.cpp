@@ -80,10 +80,8 @@ BOOL CDC::CreateCompatibleDC(CDC* dc) {
     }
     *m_state = State{};
     m_state->memory = true;
-    if (dc != nullptr && dc->HasSurface()) {
-        const auto caps = dc->m_state->Caps();
-        m_state->memoryDpi = caps.dpiX;
-    }
+    m_state->memoryDpi =
+        dc != nullptr && dc->HasSurface() ? dc->m_state->Caps().dpiX : seisplot::ScreenDpi();
     m_state->bitmap = CBitmap::DefaultMemoryBitmap();
     m_state->surface = seisplot::MakeImageSurface(m_state->bitmap->Pixels(), m_state->memoryDpi);
     return TRUE;

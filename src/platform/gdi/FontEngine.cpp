@@ -8,6 +8,7 @@
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QGuiApplication>
+#include <QScreen>
 
 #include <array>
 #include <cerrno>
@@ -94,6 +95,14 @@ QString InstalledFace(const char* face) {
 }
 
 } // namespace
+
+int ScreenDpi() {
+    EnsureGuiApplication();
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const int dpi =
+        screen != nullptr ? static_cast<int>(std::lround(screen->logicalDotsPerInchX())) : 0;
+    return dpi > 0 ? dpi : 96;
+}
 
 bool IsSymbolFace(const LOGFONTA& font) {
     return SameFace(font.lfFaceName, "Symbol");

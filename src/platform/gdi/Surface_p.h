@@ -37,6 +37,9 @@ QFont QtFontOf(const LOGFONTA& font, int pixelHeight);
 // The text as the font shows it: the "Symbol" face turns letters into Greek letters.
 QString QtTextOf(const LOGFONTA& font, const CString& text);
 
+// Dots per inch of the screen: what the primary screen says, 96 without one.
+int ScreenDpi();
+
 // A surface drawing on the pixels of a bitmap or window.
 std::shared_ptr<Surface> MakeImageSurface(std::shared_ptr<PixelImage> pixels, int dpi);
 
