@@ -6,6 +6,7 @@
 #include <QFontMetricsF>
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <numbers>
 
@@ -37,15 +38,30 @@ struct CDC::State {
     UINT textAlign = TA_LEFT | TA_TOP | TA_NOUPDATECP;
     CPoint position;
 
-    seisplot::DeviceCaps Caps() const { return surface ? surface->Caps() : seisplot::DeviceCaps{}; }
-    // Device pixels per logical unit; the y scale is negative where y points up.
-    double ScaleX() const {
-        const int dpi = Caps().dpiX;
-        return mapMode == MM_LOMETRIC ? dpi / 254.0 : mapMode == MM_HIMETRIC ? dpi / 2540.0 : 1.0;
+    // What the surface is, read once when it is attached, and the scales of the mapping mode.
+    seisplot::DeviceCaps caps;
+    double scaleX = 1.0; // device pixels per logical unit
+    double scaleY = 1.0; // negative where y points up
+    // The call being resolved, kept so that its point lists are not allocated per call.
+    mutable DrawCall call;
+
+    const seisplot::DeviceCaps& Caps() const { return caps; }
+    double ScaleX() const { return scaleX; }
+    double ScaleY() const { return scaleY; }
+
+    void Attach(std::shared_ptr<seisplot::Surface> to) {
+        surface = std::move(to);
+        caps = surface ? surface->Caps() : seisplot::DeviceCaps{};
+        UpdateScales();
     }
-    double ScaleY() const {
-        const int dpi = Caps().dpiY;
-        return mapMode == MM_LOMETRIC ? -dpi / 254.0 : mapMode == MM_HIMETRIC ? -dpi / 2540.0 : 1.0;
+    void UpdateScales() {
+        const double units = mapMode == MM_LOMETRIC ? 254.0 : mapMode == MM_HIMETRIC ? 2540.0 : 0.0;
+        scaleX = units == 0.0 ? 1.0 : caps.dpiX / units;
+        scaleY = units == 0.0 ? 1.0 : -caps.dpiY / units;
+    }
+    void ClipChanged() {
+        static std::atomic<unsigned> generations{0};
+        clip.generation = ++generations;
     }
 };
 
@@ -60,8 +76,8 @@ LONG RoundToLong(double v) {
 CDC::CDC() : m_state(std::make_unique<State>()) {}
 
 CDC::CDC(std::shared_ptr<seisplot::Surface> surface) : CDC() {
-    m_state->surface = std::move(surface);
-    m_bPrinting = m_state->surface->Caps().printing;
+    m_state->Attach(std::move(surface));
+    m_bPrinting = m_state->Caps().printing;
 }
 
 CDC::~CDC() = default;
@@ -83,7 +99,7 @@ BOOL CDC::CreateCompatibleDC(CDC* dc) {
     m_state->memoryDpi =
         dc != nullptr && dc->HasSurface() ? dc->m_state->Caps().dpiX : seisplot::ScreenDpi();
     m_state->bitmap = CBitmap::DefaultMemoryBitmap();
-    m_state->surface = seisplot::MakeImageSurface(m_state->bitmap->Pixels(), m_state->memoryDpi);
+    m_state->Attach(seisplot::MakeImageSurface(m_state->bitmap->Pixels(), m_state->memoryDpi));
     return TRUE;
 }
 
@@ -130,6 +146,7 @@ int CDC::SetMapMode(int mode) {
     const int previous = m_state->mapMode;
     if (mode == MM_TEXT || mode == MM_LOMETRIC || mode == MM_HIMETRIC) {
         m_state->mapMode = mode;
+        m_state->UpdateScales();
     }
     return previous;
 }
@@ -211,15 +228,21 @@ int CDC::IntersectClipRect(int left, int top, int right, int bottom) {
     for (CRect& c : clip.rects) {
         c = Intersection(c, r);
     }
+    m_state->ClipChanged();
     return RegionKind(clip);
 }
 
 int CDC::SelectClipRgn(CRgn* region) {
     if (region == nullptr) {
         m_state->clip = {};
+        m_state->ClipChanged();
         return SIMPLEREGION;
     }
+    if (region->GetSafeHandle() == nullptr) {
+        return ERROR; // a region never made (or deleted) leaves the clip as it was
+    }
     m_state->clip = {true, region->Rects()};
+    m_state->ClipChanged();
     return RegionKind(m_state->clip);
 }
 
@@ -270,11 +293,12 @@ CFont* CDC::SelectObject(CFont* font) {
 }
 
 CBitmap* CDC::SelectObject(CBitmap* bitmap) {
-    if (!m_state->memory || bitmap == nullptr || bitmap->Pixels() == nullptr) {
+    if (!m_state->memory || bitmap == nullptr || bitmap->GetSafeHandle() == nullptr ||
+        bitmap->Pixels() == nullptr) {
         return nullptr;
     }
     m_state->surface->Finish();
-    m_state->surface = seisplot::MakeImageSurface(bitmap->Pixels(), m_state->memoryDpi);
+    m_state->Attach(seisplot::MakeImageSurface(bitmap->Pixels(), m_state->memoryDpi));
     return std::exchange(m_state->bitmap, bitmap);
 }
 
@@ -370,15 +394,19 @@ int CDC::FontPixels(const LOGFONTA& font) const {
     return font.lfHeight < 0 ? -pixels : pixels;
 }
 
-DrawCall CDC::Resolve(DrawOp op, std::vector<CPoint> logical) const {
+DrawCall& CDC::Resolve(DrawOp op, std::initializer_list<CPoint> logical) const {
+    return Resolve(op, logical.begin(), logical.size());
+}
+
+DrawCall& CDC::Resolve(DrawOp op, const POINT* logical, std::size_t count) const {
     const State& s = *m_state;
-    DrawCall call;
+    DrawCall& call = s.call;
     call.op = op;
-    call.device.reserve(logical.size());
-    for (const CPoint& p : logical) {
+    call.logical.assign(logical, logical + count);
+    call.device.clear();
+    for (const CPoint& p : call.logical) {
         call.device.push_back(ToDevice(p.x, p.y));
     }
-    call.logical = std::move(logical);
     call.pen = s.penAttributes;
     call.penDeviceWidth = PenPixels(s.penAttributes.width);
     call.brush = s.brushAttributes;
@@ -389,6 +417,13 @@ DrawCall CDC::Resolve(DrawOp op, std::vector<CPoint> logical) const {
     call.textColor = s.textColor;
     call.textAlign = s.textAlign;
     call.font = s.fontAttributes;
+    call.text.Empty();
+    call.fontPixelHeight = 0;
+    call.textAngle = 0.0;
+    call.color = 0;
+    call.rop = SRCCOPY;
+    call.source = nullptr;
+    call.sourceRect = CRect();
     return call;
 }
 
@@ -425,7 +460,7 @@ BOOL CDC::Polygon(const POINT* points, int count) {
     if (points == nullptr || count < 2) {
         return FALSE;
     }
-    Submit(Resolve(DrawOp::Polygon, std::vector<CPoint>(points, points + count)));
+    Submit(Resolve(DrawOp::Polygon, points, static_cast<std::size_t>(count)));
     return HasSurface();
 }
 
@@ -450,8 +485,8 @@ BOOL CDC::Pie(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4) {
 }
 
 void CDC::FillSolidRect(LPCRECT rect, COLORREF color) {
-    DrawCall call = Resolve(DrawOp::Rectangle,
-                            {CPoint(rect->left, rect->top), CPoint(rect->right, rect->bottom)});
+    DrawCall& call = Resolve(DrawOp::Rectangle,
+                             {CPoint(rect->left, rect->top), CPoint(rect->right, rect->bottom)});
     // The whole rectangle but its right and bottom edges: a one-pixel outline in the same
     // colour covers what a fill without a pen leaves out.
     call.pen = {PS_SOLID, 0, color};
@@ -462,7 +497,7 @@ void CDC::FillSolidRect(LPCRECT rect, COLORREF color) {
 }
 
 COLORREF CDC::SetPixel(int x, int y, COLORREF color) {
-    DrawCall call = Resolve(DrawOp::SetPixel, {CPoint(x, y)});
+    DrawCall& call = Resolve(DrawOp::SetPixel, {CPoint(x, y)});
     call.color = color;
     Submit(call);
     return HasSurface() ? color : CLR_INVALID;
@@ -478,7 +513,7 @@ BOOL CDC::TextOut(int x, int y, LPCTSTR text, int count) {
     }
     const State& s = *m_state;
     const bool updateCp = (s.textAlign & TA_UPDATECP) != 0;
-    DrawCall call = Resolve(DrawOp::Text, {updateCp ? s.position : CPoint(x, y)});
+    DrawCall& call = Resolve(DrawOp::Text, {updateCp ? s.position : CPoint(x, y)});
     call.text = CString(text, count);
     call.fontPixelHeight = FontPixels(s.fontAttributes);
     // Escapement turns the text about its reference point; where y points up the turn
@@ -541,7 +576,7 @@ BOOL CDC::StretchBlt(int x, int y, int width, int height, CDC* source, int xSrc,
     if (source == nullptr) {
         return FALSE;
     }
-    DrawCall call = Resolve(DrawOp::Blit, {CPoint(x, y), CPoint(x + width, y + height)});
+    DrawCall& call = Resolve(DrawOp::Blit, {CPoint(x, y), CPoint(x + width, y + height)});
     call.rop = rop;
     call.source = source;
     const CPoint a = source->ToDevice(xSrc, ySrc);

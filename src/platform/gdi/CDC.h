@@ -24,8 +24,9 @@ public:
     CDC& operator=(const CDC&) = delete;
     virtual ~CDC();
 
-    // A memory context compatible with `dc` (null: the screen, 96 dots per inch). It draws on
-    // the bitmap selected into it, at first a 1-by-1 monochrome one.
+    // A memory context compatible with `dc` (null: the screen, at the resolution the primary
+    // screen reports, 96 dots per inch without one). It draws on the bitmap selected into it,
+    // at first a 1-by-1 monochrome one.
     BOOL CreateCompatibleDC(CDC* dc);
     BOOL DeleteDC();
     HDC GetSafeHdc() { return HasSurface() ? this : nullptr; }
@@ -142,7 +143,9 @@ private:
     struct State;
     bool HasSurface() const;
     CPoint ToDevice(int x, int y) const;
-    seisplot::DrawCall Resolve(seisplot::DrawOp op, std::vector<CPoint> logical) const;
+    // The call with the context's state, in a buffer the context reuses.
+    seisplot::DrawCall& Resolve(seisplot::DrawOp op, std::initializer_list<CPoint> logical) const;
+    seisplot::DrawCall& Resolve(seisplot::DrawOp op, const POINT* logical, std::size_t count) const;
     void Submit(const seisplot::DrawCall& call);
     int PenPixels(int width) const;
     int FontPixels(const LOGFONTA& font) const;

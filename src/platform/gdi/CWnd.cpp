@@ -11,7 +11,7 @@ namespace {
 class WindowDC final : public CDC {
 public:
     explicit WindowDC(std::shared_ptr<seisplot::PixelImage> picture)
-        : CDC(seisplot::MakeImageSurface(std::move(picture), seisplot::ScreenDpi())) {}
+        : CDC(seisplot::MakeImageSurface(std::move(picture), 96)) {}
 };
 
 bool SaveImage(const QImage& image, const CString& path, const char* format) {

@@ -1,6 +1,7 @@
 #pragma once
 // The least of a window that drawing code needs: a client area and device contexts on the
-// picture the window shows. A widget shows that picture; without one it stays an image.
+// picture the window shows, at 96 dots per inch so that a picture drawn off-screen is the
+// same on every machine. A widget shows that picture; without one it stays an image.
 
 #include "platform/gdi/CDC.h"
 

@@ -51,16 +51,19 @@ public:
             m_painter.drawPoint(call.device[0].x, call.device[0].y);
             break;
         case DrawOp::Blit: {
-            const PixelImage* source = call.source && call.source->GetSurface()
-                                           ? call.source->GetSurface()->Pixels()
-                                           : nullptr;
-            if (source != nullptr) {
-                const CRect s = call.sourceRect;
-                const QRect to(QPoint(call.device[0].x, call.device[0].y),
-                               QPoint(call.device[1].x - 1, call.device[1].y - 1));
-                m_painter.drawImage(to.normalized(), source->image.copy(QRect(
-                                                         s.left, s.top, s.Width(), s.Height())));
+            QPoint at;
+            QImage piece = BlitPicture(call, at);
+            if (call.rop == SRCINVERT) {
+                // Paper cannot be inverted: what would invert shows, black changes nothing.
+                piece = piece.convertToFormat(QImage::Format_ARGB32);
+                for (int y = 0; y < piece.height(); ++y) {
+                    auto* line = reinterpret_cast<QRgb*>(piece.scanLine(y));
+                    for (int x = 0; x < piece.width(); ++x) {
+                        line[x] = (line[x] & 0xFFFFFF) == 0 ? 0 : line[x];
+                    }
+                }
             }
+            m_painter.drawImage(at, piece);
             break;
         }
         default:
@@ -88,7 +91,7 @@ private:
 
 } // namespace
 
-DocumentDC::DocumentDC(std::shared_ptr<Surface> surface) : CDC(std::move(surface)) {}
+DocumentDC::DocumentDC(std::shared_ptr<Surface> surface) : CDC(surface), m_document(surface) {}
 
 std::unique_ptr<DocumentDC> DocumentDC::OpenPdf(const CString& path, double widthMm,
                                                 double heightMm, int dpi) {
@@ -132,7 +135,7 @@ std::unique_ptr<DocumentDC> DocumentDC::OpenSvg(const CString& path, int width, 
 }
 
 bool DocumentDC::Close() {
-    auto& surface = static_cast<DocumentSurface&>(*GetSurface());
+    auto& surface = static_cast<DocumentSurface&>(*m_document);
     surface.Finish();
     return surface.Ok();
 }

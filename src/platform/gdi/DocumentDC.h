@@ -21,6 +21,8 @@ public:
 
 private:
     explicit DocumentDC(std::shared_ptr<Surface> surface);
+    // Held here too, so that Close works after DeleteDC.
+    std::shared_ptr<Surface> m_document;
 };
 
 } // namespace seisplot

@@ -31,7 +31,8 @@ struct DrawCall {
     int fontPixelHeight = 0;
     UINT textAlign = 0;
     double textAngle = 0.0;
-    // Blit: the raster operation and the source context and rectangle (device pixels).
+    // Blit: the raster operation and the source context (valid during the call only) and
+    // rectangle (device pixels).
     DWORD rop = SRCCOPY;
     const CDC* source = nullptr;
     CRect sourceRect;
@@ -41,6 +42,7 @@ struct DrawCall {
 struct DeviceClip {
     bool active = false;
     std::vector<CRect> rects;
+    unsigned generation = 0; // changes whenever the clip does, so surfaces may cache it
 };
 
 } // namespace seisplot

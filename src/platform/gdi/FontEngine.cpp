@@ -19,12 +19,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-// Fonts come through fontconfig, which keeps its configuration until the process ends: under
-// LeakSanitizer that is not a leak of ours.
-extern "C" const char* __lsan_default_suppressions() {
-    return "leak:libfontconfig\n";
-}
-
 namespace seisplot {
 
 void EnsureGuiApplication() {
@@ -39,7 +33,11 @@ void EnsureGuiApplication() {
     // Qt wants a private runtime folder and complains on every start without one.
     if (std::getenv("XDG_RUNTIME_DIR") == nullptr) {
         const std::string runtime = "/tmp/seisplot-runtime-" + std::to_string(::getuid());
-        if (::mkdir(runtime.c_str(), 0700) == 0 || errno == EEXIST) {
+        struct stat info {};
+        const bool made = ::mkdir(runtime.c_str(), 0700) == 0;
+        // Only a folder of our own that nobody else may enter will do.
+        if ((made || errno == EEXIST) && ::lstat(runtime.c_str(), &info) == 0 &&
+            S_ISDIR(info.st_mode) && info.st_uid == ::getuid() && (info.st_mode & 0777) == 0700) {
             ::setenv("XDG_RUNTIME_DIR", runtime.c_str(), 0);
         }
     }

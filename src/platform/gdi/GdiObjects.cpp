@@ -224,9 +224,13 @@ int CBitmap::GetBitmap(BITMAP* info) const {
 CBitmap* CBitmap::DefaultMemoryBitmap() {
     static CBitmap bitmap;
     static const bool made = [] {
-        bitmap.CreateBitmap(1, 1, 1, 1, nullptr);
+        // Made directly: a stock object is neither counted nor subject to creation failures.
+        auto pixels = std::make_shared<seisplot::PixelImage>();
+        pixels->image = QImage(1, 1, QImage::Format_RGB32);
+        pixels->image.fill(Qt::black);
+        pixels->monochrome = true;
+        bitmap.m_pixels = std::move(pixels);
         bitmap.MarkStock();
-        --g_live; // a stock object is not counted among the live ones
         return true;
     }();
     (void)made;

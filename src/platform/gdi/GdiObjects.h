@@ -1,9 +1,10 @@
 #pragma once
 // Pens, brushes, fonts, bitmaps and regions of the drawing framework.
 //
-// Each object holds its attributes by value; a device context copies what it needs when the
-// object is selected, so an object may be deleted while a context still names it. Every
-// created object is counted until it is deleted, so tests can prove nothing leaks.
+// Each object holds its attributes by value and a device context copies them when the object
+// is selected. As in the framework, an object must outlive its selection: a context hands the
+// selected object back from SelectObject, and the caller selects it again. Every created
+// object is counted until it is deleted, so tests can prove nothing leaks.
 
 #include "platform/gdi/GdiTypes.h"
 

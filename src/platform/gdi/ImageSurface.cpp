@@ -63,7 +63,12 @@ public:
     }
 
     void Draw(const DrawCall& call, const DeviceClip& clip) override {
-        m_region = ClipRegion(clip);
+        if (clip.generation != m_regionGeneration) {
+            m_region = ClipRegion(clip);
+            m_regionGeneration = clip.generation;
+            m_oneRect = m_region.rectCount() == 1;
+            m_bounds = m_region.boundingRect();
+        }
         const DeviceColours colours{m_pixels->monochrome};
         switch (call.op) {
         case DrawOp::SetPixel:
@@ -105,8 +110,7 @@ private:
     }
 
     bool Visible(int x, int y) const {
-        return m_region.rectCount() == 1 ? m_region.boundingRect().contains(x, y)
-                                         : m_region.contains(QPoint(x, y));
+        return m_oneRect ? m_bounds.contains(x, y) : m_region.contains(QPoint(x, y));
     }
 
     void Plot(int x, int y, QRgb colour, int rop) {
@@ -131,14 +135,9 @@ private:
         int err = dx + dy;
         const QRgb ink = colours(call.pen.color).rgb();
         const QRgb gap = colours(call.bkColor).rgb();
-        int on = 1, period = 1;
-        if (call.pen.style == PS_DASH) {
-            on = 18, period = 24;
-        } else if (call.pen.style == PS_DOT) {
-            on = 3, period = 6;
-        }
+        const DashPattern dash = DashPatternOf(call.pen.style);
         for (int n = 0; x0 != x1 || y0 != y1; ++n) {
-            if (n % period < on) {
+            if (n % dash.period < dash.on) {
                 Plot(x0, y0, ink, call.rop2);
             } else if (call.bkMode == OPAQUE) {
                 Plot(x0, y0, gap, call.rop2);
@@ -158,7 +157,7 @@ private:
     // A figure under a raster operation: painted alone on a clear layer, then every pixel
     // it covers is combined with the picture once.
     void PaintWithRop(const DrawCall& call, const DeviceColours& colours) {
-        const QRect area = CallBounds(call) & m_region.boundingRect();
+        const QRect area = CallBounds(call) & m_bounds;
         if (area.isEmpty()) {
             return;
         }
@@ -180,40 +179,25 @@ private:
     }
 
     void Blit(const DrawCall& call) {
-        const PixelImage* source = call.source != nullptr && call.source->GetSurface()
-                                       ? call.source->GetSurface()->Pixels()
-                                       : nullptr;
-        if (source == nullptr) {
-            return;
-        }
-        const CRect s = call.sourceRect;
-        const QRect from = QRect(QPoint(std::min(s.left, s.right), std::min(s.top, s.bottom)),
-                                 QSize(std::abs(s.Width()), std::abs(s.Height())));
-        const int dw = call.device[1].x - call.device[0].x;
-        const int dh = call.device[1].y - call.device[0].y;
-        if (from.isEmpty() || dw == 0 || dh == 0) {
-            return;
-        }
-        QImage piece = source->image.copy(from).convertToFormat(QImage::Format_RGB32);
-        const bool flipX = (dw < 0) != (s.Width() < 0);
-        const bool flipY = (dh < 0) != (s.Height() < 0);
-        piece =
-            piece.mirrored(flipX, flipY)
-                .scaled(std::abs(dw), std::abs(dh), Qt::IgnoreAspectRatio, Qt::FastTransformation);
-        const int left = std::min(call.device[0].x, call.device[1].x);
-        const int top = std::min(call.device[0].y, call.device[1].y);
-        const bool invert = call.rop == SRCINVERT;
+        QPoint at;
+        const QImage piece = BlitPicture(call, at);
+        const int rop = call.rop == SRCINVERT ? R2_XORPEN : R2_COPYPEN;
         for (int y = 0; y < piece.height(); ++y) {
             const auto* src = reinterpret_cast<const QRgb*>(piece.constScanLine(y));
             for (int x = 0; x < piece.width(); ++x) {
-                Plot(left + x, top + y, src[x], invert ? R2_XORPEN : R2_COPYPEN);
+                Plot(at.x() + x, at.y() + y, src[x], rop);
             }
         }
     }
 
     std::shared_ptr<PixelImage> m_pixels;
     int m_dpi;
+    // The clip region in pixels, rebuilt only when the context's clip changes.
+    static constexpr unsigned kNoRegion = ~0u;
+    unsigned m_regionGeneration = kNoRegion;
     QRegion m_region;
+    QRect m_bounds;
+    bool m_oneRect = true;
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "platform/gdi/Painting_p.h"
 
+#include "platform/gdi/CDC.h"
 #include "platform/gdi/FontEngine_p.h"
 #include "platform/gdi/PixelImage_p.h"
 #include "platform/gdi/Surface_p.h"
@@ -43,9 +44,11 @@ QPen PenOf(const DrawCall& call, const DeviceColours& colours) {
         pen.setJoinStyle(Qt::RoundJoin);
     } else {
         pen.setWidth(0);
-        pen.setStyle(call.pen.style == PS_DASH  ? Qt::DashLine
-                     : call.pen.style == PS_DOT ? Qt::DotLine
-                                                : Qt::SolidLine);
+        const DashPattern dash = DashPatternOf(call.pen.style);
+        if (dash.on < dash.period) {
+            pen.setDashPattern(
+                {static_cast<qreal>(dash.on), static_cast<qreal>(dash.period - dash.on)});
+        }
     }
     return pen;
 }
@@ -122,6 +125,39 @@ void PaintText(QPainter& painter, const DrawCall& call, const DeviceColours& col
 }
 
 } // namespace
+
+QImage BlitPicture(const DrawCall& call, QPoint& at) {
+    const PixelImage* source = call.source != nullptr && call.source->GetSurface()
+                                   ? call.source->GetSurface()->Pixels()
+                                   : nullptr;
+    const CRect s = call.sourceRect;
+    const QRect from(QPoint(std::min(s.left, s.right), std::min(s.top, s.bottom)),
+                     QSize(std::abs(s.Width()), std::abs(s.Height())));
+    const int dw = call.device[1].x - call.device[0].x;
+    const int dh = call.device[1].y - call.device[0].y;
+    if (source == nullptr || from.isEmpty() || dw == 0 || dh == 0) {
+        return {};
+    }
+    at = QPoint(std::min(call.device[0].x, call.device[1].x),
+                std::min(call.device[0].y, call.device[1].y));
+    const bool flipX = (dw < 0) != (s.Width() < 0);
+    const bool flipY = (dh < 0) != (s.Height() < 0);
+    return source->image.copy(from)
+        .convertToFormat(QImage::Format_RGB32)
+        .mirrored(flipX, flipY)
+        .scaled(std::abs(dw), std::abs(dh), Qt::IgnoreAspectRatio, Qt::FastTransformation);
+}
+
+DashPattern DashPatternOf(int penStyle) {
+    switch (penStyle) {
+    case PS_DASH:
+        return {18, 24};
+    case PS_DOT:
+        return {3, 6};
+    default:
+        return {1, 1};
+    }
+}
 
 QRect CallBounds(const DrawCall& call) {
     if (call.device.empty() || call.op == DrawOp::Text) {

@@ -20,6 +20,17 @@ struct DeviceColours {
     QColor operator()(COLORREF c) const;
 };
 
+// The dashes of a one-pixel pen: `on` pixels drawn in every `period` (solid: 1 in 1).
+struct DashPattern {
+    int on;
+    int period;
+};
+DashPattern DashPatternOf(int penStyle);
+
+// The source picture of a blit as it lands: flipped where the two extents differ in sign and
+// scaled to the destination's size, with `at` its top-left pixel (empty without a source).
+QImage BlitPicture(const DrawCall& call, QPoint& at);
+
 // Paints `call` (any operation but SetPixel and Blit) with plain copying.
 void PaintCall(QPainter& painter, const DrawCall& call, const DeviceColours& colours);
 // The device rectangle a figure call covers (empty when unknown).

@@ -25,7 +25,7 @@ RecordingDC::RecordingDC(RecordingDevice device)
     : RecordingDC(std::make_shared<RecordingSurface>(device)) {}
 
 RecordingDC::RecordingDC(std::shared_ptr<Surface> surface)
-    : CDC(surface), m_calls(&static_cast<RecordingSurface&>(*surface).calls) {}
+    : CDC(surface), m_recorder(surface), m_calls(&static_cast<RecordingSurface&>(*surface).calls) {}
 
 const std::vector<DrawCall>& RecordingDC::Calls() const {
     return *m_calls;

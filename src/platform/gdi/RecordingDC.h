@@ -26,6 +26,8 @@ public:
 
 private:
     explicit RecordingDC(std::shared_ptr<Surface> surface);
+    // Held here too, so that the calls outlive DeleteDC.
+    std::shared_ptr<Surface> m_recorder;
     std::vector<DrawCall>* m_calls;
 };
 

@@ -175,6 +175,8 @@ TEST(DeviceContext, ClipRegionAndIntersection) {
     CRgn region;
     region.CreateRectRgn(0, 25, 30, 30);
     c.dc.SelectClipRgn(&region);
+    CRgn never;
+    EXPECT_EQ(c.dc.SelectClipRgn(&never), ERROR); // the clip stays as it was
     c.dc.SetPixel(1, 1, 0);
     c.dc.SetPixel(1, 26, 0);
     EXPECT_EQ(c.dc.GetPixel(1, 1), kWhite);
@@ -270,6 +272,8 @@ TEST(DeviceContext, TextAlignmentCurrentPositionAndMetrics) {
     // The current position moves along the text, here downward in logical y.
     EXPECT_EQ(dc.GetCurrentPosition().x, 100);
     EXPECT_LT(dc.GetCurrentPosition().y, 200);
+    dc.DeleteDC(); // what was recorded stays readable
+    EXPECT_EQ(dc.Calls().size(), 1u);
 }
 
 TEST(DeviceContext, SelectionReturnsPreviousAndObjectsAreCounted) {
