@@ -2,8 +2,9 @@
 // The curve plot engine: a whole plot of a curve (frame, axes, ticks, labels, titles, the
 // curve and its markers), the curve alone on a caller's mapping, and one marked point.
 //
-// All three set the device context to MM_HIMETRIC (0.01 mm, y up) where they establish the
-// drawing area, and leave the mapping mode, window origin and clip region as they set them.
+// DrawCurve and DrawPoint set the device context to MM_HIMETRIC (0.01 mm, y up) where they
+// establish the drawing area, and leave the mapping mode, window origin and clip region as they
+// set them; DrawOnlyCurve draws in the caller's mapping and leaves its clip region selected.
 // A displayed value pair (u, w) lands at (wx + u·sx, wy + w·sy), truncated toward zero.
 
 #include "draw/font/SFont.h"

@@ -174,7 +174,7 @@ void PlotCurve(const CurveBase& curve, CWnd* wnd, CDC* dc, int fill, const Units
     OutTextCentered(dc, curve.GetName().GetString(), HalfWidth(box) + box.x0, box.y0, 0, titleFont);
 
     // Along the right edge, 1 mm inside it, at a 48th of the smaller side in points.
-    const int m = dc->GetMapMode() == MM_LOMETRIC ? 10 : 100;
+    const int m = UnitsPerMillimetre(dc);
     const int size = static_cast<int>(std::min(box.Idx(), box.Idy()) * 72 / 48 / 25.4 / m);
     OutTextCentered(dc, kProductLine, area.right - m, area.top / 2, 900, SFont(size, 0));
 }

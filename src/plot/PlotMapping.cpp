@@ -1,5 +1,7 @@
 #include "plot/PlotMapping_p.h"
 
+#include "draw/gdi/DeviceConventions.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -82,13 +84,7 @@ CRect SetUpDrawingArea(CWnd* wnd, CDC* dc) {
         dc->SetWindowOrg(0, side);
         return CRect(0, side, side, 0);
     }
-    CRect area;
-    wnd->GetClientRect(&area);
-    dc->DPtoLP(&area);
-    dc->SetWindowOrg(0, -area.bottom);
-    // Converted again under the new origin: left 0, bottom 0, right = width, top = height.
-    wnd->GetClientRect(&area);
-    dc->DPtoLP(&area);
+    const CRect area = SetUpClientArea(wnd, dc);
     dc->IntersectClipRect(&area);
     return area;
 }

@@ -36,8 +36,9 @@ void PlotOnlyCurve(const CurveBase& curve, CDC* dc, const Units* units, const SF
     const RPoint2DColl& points = curve.GetPColl();
     const int n = curve.GetNP();
 
+    // Each point is mapped once: a segment's end is the next segment's start.
+    CPoint from = n > 0 ? at(points[0]) : CPoint();
     for (int i = 1; i < n; ++i) {
-        const CPoint from = at(points[i - 1]);
         const CPoint to = at(points[i]);
         if (markAll && i == 1) {
             Disc(dc, from, width, kPointColour);
@@ -46,6 +47,7 @@ void PlotOnlyCurve(const CurveBase& curve, CDC* dc, const Units* units, const SF
         if (markAll) {
             Disc(dc, to, width, kPointColour);
         }
+        from = to;
     }
 
     const int r = static_cast<int>(1.33 * width);

@@ -95,7 +95,10 @@ void SFont::Serialize(CArchive& ar) {
         ar << lfHeight << lfWidth << lfEscapement << lfOrientation << lfWeight;
         ar << lfItalic << lfUnderline << lfStrikeOut << lfCharSet << lfOutPrecision
            << lfClipPrecision << lfQuality << lfPitchAndFamily;
-        ar.Write(lfFaceName, LF_FACESIZE);
+        // The host may have copied a shorter name over a longer one: store zeros after it.
+        char face[LF_FACESIZE];
+        CopyFace(face, lfFaceName);
+        ar.Write(face, LF_FACESIZE);
         ar << static_cast<DWORD>(Color);
     } else {
         ar >> lfHeight >> lfWidth >> lfEscapement >> lfOrientation >> lfWeight;

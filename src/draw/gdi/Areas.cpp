@@ -2,7 +2,6 @@
 
 #include "draw/gdi/DeviceConventions.h"
 #include "draw/gdi/Lines.h"
-#include "host/Boxes.h"
 #include "host/RPoly.h"
 
 #include <memory>
@@ -282,17 +281,9 @@ int DisplayROPCircle(CDC* dc, CPoint centre, int diameter) {
 void DrawPoly(CButton& button, RPoly* poly, unsigned long lineColour, unsigned long fillColour,
               int width) {
     CDC* dc = button.GetDC();
-    // Logical units of a hundredth of a millimetre, from the bottom-left corner, y up.
-    dc->SetMapMode(MM_HIMETRIC);
-    CRect client;
-    button.GetClientRect(&client);
-    dc->DPtoLP(&client);
-    dc->SetWindowOrg(0, -client.bottom);
-    button.GetClientRect(&client);
-    dc->DPtoLP(&client);
-    const nbox box(client.left, client.bottom, client.right, client.top);
-    const int w = box.x1;
-    const int h = box.y1;
+    const CRect client = seisplot::SetUpClientArea(&button, dc);
+    const int w = client.right;
+    const int h = client.top;
 
     if (poly != nullptr && poly->GetNPoint() > 0) {
         double dx = poly->GetMaxX() - poly->GetMinX();

@@ -3,6 +3,10 @@
 #include "platform/core/ResourceModule.h"
 #include "platform/gl/CurrentDevice.h"
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
 unsigned long col[16] = {
     0x000000, 0xBF0000, 0x00BF00, 0xBFBF00, 0x0000BF, 0xBF00BF, 0x368798, 0x808080,
     0xC0C0C0, 0xFF0000, 0x00FF00, 0xFFFF00, 0x0000FF, 0xFF00FF, 0x00FFFF, 0xFFFFFF,
@@ -103,7 +107,12 @@ double find_conv(double dx, double dy, double a, double b, double c, double d) {
 }
 
 int rnd(double x) {
-    return static_cast<int>(x >= 0.0 ? x + 0.5 : x - 0.5);
+    if (std::isnan(x)) {
+        return 0;
+    }
+    constexpr double low = std::numeric_limits<int>::min();
+    constexpr double high = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp(x >= 0.0 ? x + 0.5 : x - 0.5, low, high));
 }
 
 namespace seisplot {
@@ -117,6 +126,18 @@ int UnitsPerMillimetre(const CDC* dc) {
     default:
         return 0;
     }
+}
+
+CRect SetUpClientArea(const CWnd* wnd, CDC* dc) {
+    dc->SetMapMode(MM_HIMETRIC);
+    CRect area;
+    wnd->GetClientRect(&area);
+    dc->DPtoLP(&area);
+    dc->SetWindowOrg(0, -area.bottom);
+    // Converted again under the new origin.
+    wnd->GetClientRect(&area);
+    dc->DPtoLP(&area);
+    return area;
 }
 
 } // namespace seisplot

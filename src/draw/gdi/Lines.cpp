@@ -11,12 +11,6 @@ namespace {
 
 constexpr unsigned long kNoValueGrey = 0xC0C0C0;
 
-// A monochrome device has two colours or fewer; a device with more than 256 reports -1,
-// which read as 16 bits unsigned counts as many.
-bool IsColourDevice(CDC* dc) {
-    return static_cast<WORD>(dc->GetDeviceCaps(NUMCOLORS)) > 2;
-}
-
 // The value class of layer_line: the index of the first threshold above the value, or the
 // length of the table when none is; any unknown kind is class 0.
 int ValueClass(double value, unsigned char kind) {
@@ -131,7 +125,7 @@ int mixline(CDC* dc, const CPoint& from, const CPoint& to, unsigned long mainCol
     CPen* previous = dc->SelectObject(&pen);
     dc->MoveTo(from);
     dc->LineTo(to);
-    if (!IsColourDevice(dc)) {
+    if (dc->IsMonochrome()) {
         dc->SelectObject(previous);
         return 0;
     }
@@ -155,7 +149,7 @@ int layer_line(CDC* dc, const CPoint& from, const CPoint& to, double value, unsi
         return SolidSegment(dc, from, to, kNoValueGrey, width) ? 0 : 1;
     }
     const int k = ValueClass(value, kind);
-    if (IsColourDevice(dc)) {
+    if (!dc->IsMonochrome()) {
         // The caller's colours start at class 1; class 0 shows as a line without a value.
         line(dc, from, to, k == 0 ? kNoValueGrey : classColours[k - 1], width);
         return 0;
@@ -172,7 +166,8 @@ int linespr(CDC* dc, CPoint& from, CPoint& to, double divisor, unsigned long col
     constexpr double quarter = std::numbers::pi / 2.0;
     const double x1 = from.x, y1 = from.y, x2 = to.x, y2 = to.y;
     const double h = std::hypot(x2 - x1, y2 - y1) / divisor;
-    if (x1 == x2 && y1 == y2) {
+    // A divisor of 0 (or NaN) leaves no width to draw the strokes across.
+    if ((x1 == x2 && y1 == y2) || !std::isfinite(h)) {
         return 0;
     }
     const double a = x2 == x1 ? quarter : y2 == y1 ? 0.0 : std::atan2(y1 - y2, x2 - x1);

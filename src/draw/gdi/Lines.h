@@ -13,4 +13,6 @@ int mixline(CDC* dc, const CPoint& from, const CPoint& to, unsigned long mainCol
             unsigned long dotColour, int width);
 int layer_line(CDC* dc, const CPoint& from, const CPoint& to, double value, unsigned char kind,
                unsigned long* classColours, int width);
+// A zigzag reaching the segment's length / `divisor` either side of it; nothing for a
+// divisor of 0.
 int linespr(CDC* dc, CPoint& from, CPoint& to, double divisor, unsigned long colour, int width);

@@ -94,6 +94,13 @@ TEST(SFont, StoresAndLoadsEveryFieldAndStopsShort) {
     ExpectSameFont(loaded, original);
     ExpectSameFont(SFont(original), original);
 
+    // A shorter name copied over a longer one is stored with zeros after it.
+    std::strcpy(original.lfFaceName, "Arial");
+    const Bytes reused = seisplot::test::StoreObject(original);
+    Bytes face(LF_FACESIZE, 0);
+    std::memcpy(face.data(), "Arial", 5);
+    EXPECT_EQ(Bytes(reused.begin() + 28, reused.begin() + 60), face);
+
     // A reader ignores whatever the face buffer holds after its NUL.
     Bytes dirty = bytes;
     dirty[28 + 3] = 0;

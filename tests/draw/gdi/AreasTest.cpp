@@ -6,7 +6,7 @@
 #include "draw/gdi/Lines.h"
 #include "host/RPoly.h"
 
-#include "Probes.h"
+#include "support/DrawProbes.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -17,6 +17,9 @@
 
 using seisplot::RecordingDC;
 using seisplot::RecordingDevice;
+using seisplot::test::Canvas;
+using seisplot::test::MetricDC;
+using seisplot::test::Shapes;
 using testing::ElementsAre;
 
 namespace {

@@ -1,7 +1,8 @@
 #include "draw/gdi/Arrows.h"
 
-#include "Probes.h"
 #include "host/Boxes.h"
+
+#include "support/DrawProbes.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -10,6 +11,8 @@
 #include <vector>
 
 using seisplot::DrawCall;
+using seisplot::test::MetricDC;
+using seisplot::test::Shapes;
 using testing::ElementsAre;
 using testing::UnorderedElementsAre;
 

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <limits>
 #include <utility>
 
 namespace {
@@ -51,6 +53,9 @@ TEST(Conventions, RoundingAndFitting) {
     EXPECT_EQ(rnd(-2.5), -3);
     EXPECT_EQ(rnd(-0.4), 0);
     EXPECT_EQ(rnd(2.49), 2);
+    EXPECT_EQ(rnd(1e10), std::numeric_limits<int>::max());
+    EXPECT_EQ(rnd(-1e10), std::numeric_limits<int>::min());
+    EXPECT_EQ(rnd(std::nan("")), 0);
     EXPECT_DOUBLE_EQ(find_conv(10, 20, 100, 100, 1, 1), 5.0); // height limits
     EXPECT_DOUBLE_EQ(find_conv(20, 10, 100, 100, 1, 1), 5.0); // width limits
     // Equal ratios take the width branch: a·c/dx = 0.5·40/10, not b·d/dy = 0.25·80/10.

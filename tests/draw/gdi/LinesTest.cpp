@@ -3,7 +3,7 @@
 
 #include "draw/gdi/Lines.h"
 
-#include "Probes.h"
+#include "support/DrawProbes.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -12,6 +12,9 @@
 
 using seisplot::RecordingDC;
 using seisplot::RecordingDevice;
+using seisplot::test::Canvas;
+using seisplot::test::MetricDC;
+using seisplot::test::Shapes;
 using testing::ElementsAre;
 
 namespace {
@@ -51,7 +54,7 @@ TEST(Lines, MixlineDotsOnlyOnColourDevices) {
     EXPECT_EQ(red + blue, 60);
 
     // Black main line, white dots: a monochrome device shows no dot.
-    Canvas mono(60, 20, 0xFFFFFF, true);
+    Canvas mono(60, 20, 0xFFFFFF, Canvas::Depth::Monochrome);
     mixline(&mono.dc, CPoint(0, 10), CPoint(60, 10), 0, 0xFFFFFF, 5);
     for (int x = 0; x < 60; ++x) {
         EXPECT_EQ(mono.dc.GetPixel(x, 10), 0u) << x;
@@ -129,5 +132,6 @@ TEST(Lines, SpringStrokesAndTurningPoints) {
 
     dc.Clear();
     EXPECT_EQ(linespr(&dc, from, from, 11.0, kRed, 3), 0);
+    EXPECT_EQ(linespr(&dc, from, to, 0.0, kRed, 3), 0);
     EXPECT_TRUE(dc.Calls().empty());
 }

@@ -1,7 +1,8 @@
 #include "draw/gdi/Symbols.h"
 
-#include "Probes.h"
 #include "draw/gdi/Areas.h"
+
+#include "support/DrawProbes.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -12,6 +13,8 @@
 using seisplot::DrawOp;
 using seisplot::RecordingDC;
 using seisplot::RecordingDevice;
+using seisplot::test::MetricDC;
+using seisplot::test::Shapes;
 using testing::ElementsAre;
 
 namespace {

@@ -3,8 +3,9 @@
 
 #include "draw/gdi/Text.h"
 
-#include "Probes.h"
 #include "draw/font/SFont.h"
+
+#include "support/DrawProbes.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -16,6 +17,8 @@
 
 using seisplot::DrawCall;
 using seisplot::DrawOp;
+using seisplot::test::Canvas;
+using seisplot::test::Shapes;
 using testing::ElementsAre;
 
 namespace {

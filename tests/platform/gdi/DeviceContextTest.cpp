@@ -6,40 +6,17 @@
 #include "platform/gdi/DocumentDC.h"
 #include "platform/gdi/RecordingDC.h"
 
+#include "support/DrawProbes.h"
 #include "support/TempDir.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
+using seisplot::test::Canvas;
+
 constexpr COLORREF kWhite = 0xFFFFFF;
 constexpr COLORREF kRed = 0x0000FF;
-
-// A memory context on a white colour (or monochrome) bitmap of w by h pixels.
-struct Canvas {
-    CDC dc;
-    CBitmap bitmap;
-    CBitmap* previous = nullptr;
-    Canvas(int w, int h, bool mono = false) {
-        dc.CreateCompatibleDC(nullptr);
-        bitmap.CreateBitmap(w, h, 1, mono ? 1 : 32, nullptr);
-        previous = dc.SelectObject(&bitmap);
-        const CRect all(0, 0, w, h);
-        dc.FillSolidRect(&all, kWhite);
-    }
-    ~Canvas() { dc.SelectObject(previous); }
-    std::vector<COLORREF> Pixels() const {
-        BITMAP info;
-        bitmap.GetBitmap(&info);
-        std::vector<COLORREF> out;
-        for (int y = 0; y < info.bmHeight; ++y) {
-            for (int x = 0; x < info.bmWidth; ++x) {
-                out.push_back(dc.GetPixel(x, y));
-            }
-        }
-        return out;
-    }
-};
 
 TEST(DeviceContext, MetricModesMapWithYUpAndRoundTrip) {
     seisplot::RecordingDC dc(seisplot::RecordingDevice{1000, 800, 254});
@@ -184,7 +161,7 @@ TEST(DeviceContext, ClipRegionAndIntersection) {
 }
 
 TEST(DeviceContext, MonochromeDeviceAndPatternBrush) {
-    Canvas mono(16, 16, true);
+    Canvas mono(16, 16, kWhite, Canvas::Depth::Monochrome);
     EXPECT_EQ(mono.dc.GetDeviceCaps(NUMCOLORS), 2);
     EXPECT_TRUE(mono.dc.IsMonochrome());
     mono.dc.SetPixel(3, 3, 0x00C0C0); // light: white on a monochrome device

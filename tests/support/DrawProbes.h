@@ -7,21 +7,28 @@
 #include <string>
 #include <vector>
 
-// A memory device context on a 32-bit (or monochrome) bitmap.
+namespace seisplot::test {
+
+// A memory device context on a w by h bitmap filled with `background`: 32 bits a pixel, or
+// one for a monochrome device.
 struct Canvas {
+    enum class Depth { Colour, Monochrome };
+
     CDC dc;
     CBitmap bitmap;
     CBitmap* previous = nullptr;
     int width;
     int height;
 
-    Canvas(int w, int h, COLORREF background = 0xFFFFFF, bool monochrome = false)
+    Canvas(int w, int h, COLORREF background = 0xFFFFFF, Depth depth = Depth::Colour)
         : width(w), height(h) {
         dc.CreateCompatibleDC(nullptr);
-        bitmap.CreateBitmap(w, h, 1, monochrome ? 1 : 32, nullptr);
+        bitmap.CreateBitmap(w, h, 1, depth == Depth::Monochrome ? 1 : 32, nullptr);
         previous = dc.SelectObject(&bitmap);
         Fill(CRect(0, 0, w, h), background);
     }
+    // Not a background: monochrome is asked for with Depth::Monochrome.
+    Canvas(int w, int h, bool) = delete;
     ~Canvas() { dc.SelectObject(previous); }
 
     void Fill(const CRect& area, COLORREF colour) { dc.FillSolidRect(&area, colour); }
@@ -72,3 +79,5 @@ inline std::vector<std::string> Shapes(const seisplot::RecordingDC& dc) {
     }
     return shapes;
 }
+
+} // namespace seisplot::test
