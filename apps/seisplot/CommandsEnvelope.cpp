@@ -41,6 +41,7 @@ std::string Soils(const CString& verdict) {
 } // namespace
 
 EnvelopeSummary RunEnvelope(const EnvelopeOptions& options, std::ostream& out) {
+    CheckPlotOptions(options.plot);
     if (options.modes.empty() && !options.maxPeriod) {
         BadUsage("give the periods: --modes FILE, or --tmax T --dt S");
     }

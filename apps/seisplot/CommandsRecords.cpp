@@ -190,6 +190,7 @@ void RunShow(const ShowOptions& options, std::ostream& out) {
 }
 
 void RunRecordPlot(const RecordPlotOptions& options, std::ostream& out) {
+    CheckPlotOptions(options.plot);
     AccelerogramColl records;
     LoadRecordSet(options.set, records);
     Accelerogram& record = RecordAt(records, options.record, options.set);

@@ -47,6 +47,7 @@ struct Curve {
 } // namespace
 
 void RunSpectrum(const SpectrumOptions& options, std::ostream& out) {
+    CheckPlotOptions(options.plot);
     const std::vector<double> dampings = Dampings(options);
     AccelerogramColl records;
     LoadRecordSet(options.set, records);
@@ -57,13 +58,12 @@ void RunSpectrum(const SpectrumOptions& options, std::ostream& out) {
                           : options.kind == "acc" ? "Acceleration response spectrum"
                                                   : "Displacement response spectrum";
     std::vector<Curve> curves;
+    // The spectra to draw, kept until every damping has one: a failing damping writes no
+    // picture at all.
+    std::vector<PCurve> plots;
+    std::vector<PMCurve> adPlots;
     for (double damping : dampings) {
         Curve curve{damping, {}};
-        const CString title = (std::string(heading) + " of " + record.Identifier.GetString() +
-                               Printf(", damping %.1f%%", 100.0 * damping))
-                                  .c_str();
-        // Several dampings: one picture each, named by its damping.
-        const std::string suffix = dampings.size() > 1 ? Printf("-xi%.3f", damping) : "";
         int failed = 0;
         if (ads) {
             PMCurve result;
@@ -71,9 +71,8 @@ void RunSpectrum(const SpectrumOptions& options, std::ostream& out) {
             for (int i = 0; i < result.GetNP(); ++i) {
                 curve.points.emplace_back(result[i].GetX(), result[i].GetY() / Accelerogram::kG);
             }
-            if (failed == 0 && !curve.points.empty() && options.plot.file) {
-                result.SetName(title);
-                WritePlot(options.plot, suffix, result);
+            if (options.plot.file) {
+                adPlots.push_back(result);
             }
         } else {
             PCurve result;
@@ -84,9 +83,8 @@ void RunSpectrum(const SpectrumOptions& options, std::ostream& out) {
             for (int i = 0; i < result.GetNP(); ++i) {
                 curve.points.emplace_back(result[i].GetX(), result[i].GetY());
             }
-            if (failed == 0 && !curve.points.empty() && options.plot.file) {
-                result.SetName(title);
-                WritePlot(options.plot, suffix, result);
+            if (options.plot.file) {
+                plots.push_back(result);
             }
         }
         if (failed != 0 || curve.points.empty()) {
@@ -95,6 +93,19 @@ void RunSpectrum(const SpectrumOptions& options, std::ostream& out) {
         }
         curves.push_back(std::move(curve));
     }
+    const auto writePlots = [&](auto& spectra) {
+        for (size_t i = 0; i < spectra.size(); ++i) {
+            const double damping = curves[i].damping;
+            spectra[i].SetName((std::string(heading) + " of " + record.Identifier.GetString() +
+                                Printf(", damping %.1f%%", 100.0 * damping))
+                                   .c_str());
+            // Several dampings: one picture each, named by its damping.
+            WritePlot(options.plot, spectra[i],
+                      dampings.size() > 1 ? Printf("-xi%.3f", damping) : "");
+        }
+    };
+    writePlots(plots);
+    writePlots(adPlots);
 
     const char* xKey = ads ? "sd_mm" : "period_s";
     const char* yKey = ads ? "sa_g" : options.kind == "acc" ? "sa_g" : "sd_mm";
@@ -157,6 +168,7 @@ void RunSpectrum(const SpectrumOptions& options, std::ostream& out) {
 }
 
 void RunCode(const CodeOptions& options, std::ostream& out) {
+    CheckPlotOptions(options.plot);
     const bool ntc = options.code == "ntc";
     if (ntc && (!options.f0 || !options.tcs)) {
         BadUsage("the NTC spectrum needs --f0 and --tcs");

@@ -31,7 +31,7 @@ PictureKind KindOf(const std::string& path) {
     if (extension == ".pdf") {
         return PictureKind::Pdf;
     }
-    BadUsage("--plot " + path + ": the picture must be a .png, .svg or .pdf file");
+    BadUsage(path + ": the picture must be a .png, .svg or .pdf file");
 }
 
 struct Size {
@@ -90,6 +90,9 @@ void Write(const PlotOptions& options, const std::string& path, Curve& curve) {
 }
 
 std::string WithSuffix(const std::string& path, const std::string& suffix) {
+    if (suffix.empty()) {
+        return path;
+    }
     const std::filesystem::path p(path);
     return (p.parent_path() / (p.stem().string() + suffix + p.extension().string())).string();
 }
@@ -103,16 +106,17 @@ void AddPlotOptions(CLI::App& command, PlotOptions& options) {
         ->capture_default_str();
 }
 
-void WritePlot(const PlotOptions& options, PCurve& curve) {
-    Write(options, *options.file, curve);
+void CheckPlotOptions(const PlotOptions& options) {
+    if (options.file) {
+        KindOf(*options.file);
+        ParseSize(options.size);
+    }
 }
-void WritePlot(const PlotOptions& options, PMCurve& curve) {
-    Write(options, *options.file, curve);
-}
-void WritePlot(const PlotOptions& options, const std::string& suffix, PCurve& curve) {
+
+void WritePlot(const PlotOptions& options, PCurve& curve, const std::string& suffix) {
     Write(options, WithSuffix(*options.file, suffix), curve);
 }
-void WritePlot(const PlotOptions& options, const std::string& suffix, PMCurve& curve) {
+void WritePlot(const PlotOptions& options, PMCurve& curve, const std::string& suffix) {
     Write(options, WithSuffix(*options.file, suffix), curve);
 }
 

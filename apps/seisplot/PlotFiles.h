@@ -17,12 +17,14 @@ struct PlotOptions {
 };
 void AddPlotOptions(CLI::App& command, PlotOptions& options);
 
-// Writes the plot of `curve`; fails (CommandError) on an unknown extension, a bad size or a
-// file that cannot be written.
-void WritePlot(const PlotOptions& options, PCurve& curve);
-void WritePlot(const PlotOptions& options, PMCurve& curve);
-// The same with `suffix` put before the extension ("a.png", "-2" -> "a-2.png").
-void WritePlot(const PlotOptions& options, const std::string& suffix, PCurve& curve);
-void WritePlot(const PlotOptions& options, const std::string& suffix, PMCurve& curve);
+// Fails (BadUsage) on an unknown extension or a bad size when a picture is asked for: run
+// before any work, so that a long computation does not end in a usage error.
+void CheckPlotOptions(const PlotOptions& options);
+
+// Writes the plot of `curve`, with `suffix` put before the extension ("a.png", "-2" ->
+// "a-2.png"); fails (CommandError) on an unknown extension, a bad size or a file that cannot
+// be written.
+void WritePlot(const PlotOptions& options, PCurve& curve, const std::string& suffix = "");
+void WritePlot(const PlotOptions& options, PMCurve& curve, const std::string& suffix = "");
 
 } // namespace seisplot::cli

@@ -170,9 +170,12 @@ TEST(CliUsage, BadCommandLinesGiveStatusTwoAndSayWhy) {
          "--direction requires --pairs"},
         {{"sinusoids", "--count", "0", "-o", "x.acc"}, "--count"},
         {{"rotate", event.set, "1"}, "--angle is required"},
-        {{"plot", event.set, "1", "-o", "a.jpg"}, "the picture must be a .png, .svg or .pdf file"},
-        {{"code", "ec8", "--ag", "0.2", "--soil", "B", "--plot", "a.png", "--size", "99x600"},
-         "--size 99x600: give WIDTHxHEIGHT in pixels, each 100 to 20000"},
+        // The picture is checked before any work: a missing set is not reached.
+        {{"plot", "missing.acc", "1", "-o", "a.jpg"},
+         "seisplot: a.jpg: the picture must be a .png, .svg or .pdf file\n"},
+        {{"envelope", "missing.acc", "--tmax", "1", "--dt", "0.1", "--plot", "a.png", "--size",
+          "99x600"},
+         "seisplot: --size 99x600: give WIDTHxHEIGHT in pixels, each 100 to 20000\n"},
     };
     for (const auto& c : cases) {
         const CliResult r = event.Run(c.args);
