@@ -4,18 +4,19 @@
 PRESET ?= default
 BUILD := build/$(PRESET)
 JOBS ?= 2
+# Warnings as errors: given on every configure, never remembered from an earlier one.
+WERROR ?= OFF
 
-.PHONY: all deps configure build run test asan-test bench fuzz-smoke format clean
+.PHONY: all deps configure build run studio test asan-test core-test bench fuzz-smoke format \
+	format-check clean
 
 all: build
 
 deps:
 	@bash scripts/install-deps.sh
 
-$(BUILD)/build.ninja: | deps
-	cmake --preset $(PRESET)
-
-configure: $(BUILD)/build.ninja
+configure: deps
+	@cmake --preset $(PRESET) -DSEISPLOT_WERROR=$(WERROR) >/dev/null
 
 build: configure
 	cmake --build $(BUILD) -j $(JOBS)
@@ -23,11 +24,21 @@ build: configure
 run: build
 	$(BUILD)/apps/seisplot/seisplot demo
 
+# The desktop application, on the display in use.
+studio: configure
+	cmake --build $(BUILD) -j $(JOBS) --target seisplot_studio
+	$(BUILD)/apps/studio/seisplot-studio
+
 test: build
 	ctest --test-dir $(BUILD) -j $(JOBS) --output-on-failure
 
 asan-test:
 	$(MAKE) test PRESET=asan
+
+# The compute core alone, configured afresh with Qt hidden from CMake.
+core-test:
+	rm -rf build/core
+	$(MAKE) test PRESET=core
 
 bench:
 	$(MAKE) build PRESET=release
@@ -53,6 +64,9 @@ fuzz-smoke:
 
 format:
 	git ls-files '*.cpp' '*.h' | xargs clang-format -i
+
+format-check: deps
+	git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
 
 clean:
 	rm -rf build

@@ -52,10 +52,10 @@ void EnvelopeRun(benchmark::State& state) {
         checked[4] = checked[5] = false;
     }
     EnvelopeCriteria criteria;
-    criteria.PeriodSource = 1;
+    criteria.PeriodSource = EnvelopeCriteria::RegularGrid;
     criteria.MaxPeriod = 4.0;
     criteria.PeriodStep = 0.01;
-    criteria.SignalUse = pairs ? 1 : 0;
+    criteria.SignalUse = pairs ? EnvelopeCriteria::ComposedPairs : EnvelopeCriteria::EachRecord;
     EnvelopeModes modes;
     const unsigned threads = static_cast<unsigned>(state.range(1));
     for (auto _ : state) {

@@ -13,8 +13,8 @@ namespace {
 // A decaying oscillation of `samples` points every 0.005 s, in mm/s².
 PCurve Record(int samples) {
     PCurve curve;
-    curve.XUnit = 12;
-    curve.YUnit = 10;
+    curve.XUnit = seisplot::UnitKind::Time;
+    curve.YUnit = seisplot::UnitKind::Acceleration;
     curve.XName = "t";
     curve.YName = "a";
     curve.SetName("Record");

@@ -21,11 +21,16 @@ if(SEISPLOT_FUZZ)
     target_compile_options(seisplot_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# seisplot_add_layer(<name> SOURCES ... HEADERS ... [DEPENDS ...])
-# Declares the static library seisplot_<name>, aliased seisplot::<name>. Headers are included
-# as "<folder>/<Header>.h" from src/ while building and from include/seisplot once installed.
+# seisplot_add_layer(<name> COMPONENT <component> SOURCES ... HEADERS ... [DEPENDS ...])
+# Declares the static library seisplot_<name>, aliased seisplot::<name>, installed with the
+# package component <component> (core, draw or ui). Headers are included as
+# "<folder>/<Header>.h" from src/ while building and from include/seisplot once installed.
 function(seisplot_add_layer name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;HEADERS;DEPENDS;PRIVATE_DEPENDS")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "COMPONENT"
+        "SOURCES;HEADERS;DEPENDS;PRIVATE_DEPENDS")
+    if(NOT arg_COMPONENT)
+        message(FATAL_ERROR "seisplot_add_layer(${name}): COMPONENT is required")
+    endif()
     set(target seisplot_${name})
     add_library(${target} ${arg_SOURCES})
     add_library(seisplot::${name} ALIAS ${target})
@@ -35,5 +40,5 @@ function(seisplot_add_layer name)
     target_compile_features(${target} PUBLIC cxx_std_20)
     target_link_libraries(${target} PUBLIC ${arg_DEPENDS}
         PRIVATE $<BUILD_INTERFACE:seisplot::options> ${arg_PRIVATE_DEPENDS})
-    set_property(GLOBAL APPEND PROPERTY SEISPLOT_LAYERS ${target})
+    set_property(GLOBAL APPEND PROPERTY SEISPLOT_LAYERS_${arg_COMPONENT} ${target})
 endfunction()

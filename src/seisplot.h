@@ -17,7 +17,14 @@
 #include "platform/core/StringTable.h"
 #include "platform/core/Types.h"
 #include "platform/core/UserInterface.h"
+#include "platform/ui/CDialog.h"
+#include "platform/ui/Clipboard.h"
+#include "platform/ui/Controls.h"
+#include "platform/ui/DataExchange.h"
+#include "platform/ui/DialogDriver.h"
+#include "platform/ui/PrintDialog.h"
 #include "platform/ui/QtUserInterface.h"
+#include "platform/ui/ScriptedDialogs.h"
 
 // Device contexts and their surfaces, windows
 #include "platform/gdi/CDC.h"
@@ -40,6 +47,7 @@
 #include "host/RPoint2DColl.h"
 #include "host/RPoly.h"
 #include "host/Units.h"
+#include "host/dialogs/CoordinateDialogs.h"
 
 // Records
 #include "records/Accelerogram.h"

@@ -4,7 +4,7 @@
 #include "AtomicFile.h"
 #include "Commands.h"
 #include "Errors.h"
-#include "RecordFiles.h"
+#include "records/ImportFiles.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -98,14 +98,14 @@ void RunDemo(const DemoOptions& options, std::ostream& out) {
     }
     std::sort(files.begin(), files.end());
     for (const fs::path& file : files) {
-        switch (RecordFileKindOf(file.string())) {
-        case RecordFileKind::Itaca:
+        switch (seisplot::RecordFileKindOf(file.string().c_str())) {
+        case seisplot::RecordFileKind::Itaca:
             itaca.push_back(file.string());
             break;
-        case RecordFileKind::TwoColumn:
+        case seisplot::RecordFileKind::TwoColumn:
             twoColumn[TwoColumnUnit(file)].push_back(file.string());
             break;
-        case RecordFileKind::Unknown:
+        case seisplot::RecordFileKind::Unknown:
             break;
         }
     }

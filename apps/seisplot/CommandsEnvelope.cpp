@@ -18,13 +18,16 @@ namespace {
 
 EnvelopeCriteria CriteriaOf(const EnvelopeOptions& options) {
     EnvelopeCriteria criteria;
-    criteria.PeriodSource = options.modes.empty() ? 1 : 0;
+    criteria.PeriodSource =
+        options.modes.empty() ? EnvelopeCriteria::RegularGrid : EnvelopeCriteria::StructuralModes;
     criteria.MaxPeriod = options.maxPeriod.value_or(0.0);
     criteria.PeriodStep = options.periodStep.value_or(0.0);
     criteria.Damping = options.damping;
-    criteria.SignalUse = options.pairs ? 1 : 0;
+    criteria.SignalUse =
+        options.pairs ? EnvelopeCriteria::ComposedPairs : EnvelopeCriteria::EachRecord;
     criteria.Direction = options.direction;
-    criteria.Statistic = options.percentile ? 1 : 0;
+    criteria.Statistic = options.percentile ? EnvelopeCriteria::PercentileEnvelope
+                                            : EnvelopeCriteria::CompleteEnvelope;
     criteria.Percentile = options.percentile.value_or(criteria.Percentile);
     return criteria;
 }

@@ -4,7 +4,6 @@
 #include "Commands.h"
 #include "ConsoleProgress.h"
 #include "Errors.h"
-#include "RecordFiles.h"
 
 #include "host/Units.h"
 #include "platform/core/ConsoleUserInterface.h"
@@ -52,16 +51,16 @@ Units TwoColumnUnits(const ImportOptions& options, const std::string& firstFile,
 } // namespace
 
 void RunImport(const ImportOptions& options, std::ostream& out) {
-    std::vector<RecordFileKind> kinds;
+    std::vector<seisplot::RecordFileKind> kinds;
     std::string firstTwoColumn;
     int twoColumnCount = 0;
     for (const std::string& file : options.files) {
-        const RecordFileKind kind = RecordFileKindOf(file);
-        if (kind == RecordFileKind::Unknown) {
+        const seisplot::RecordFileKind kind = seisplot::RecordFileKindOf(file.c_str());
+        if (kind == seisplot::RecordFileKind::Unknown) {
             Fail("cannot import " + file +
                  ": unrecognized file extension (known: .ASC .RA .TR .UP .SEW .SNS .txt .plt)");
         }
-        if (kind == RecordFileKind::TwoColumn && twoColumnCount++ == 0) {
+        if (kind == seisplot::RecordFileKind::TwoColumn && twoColumnCount++ == 0) {
             firstTwoColumn = file;
         }
         kinds.push_back(kind);
@@ -92,7 +91,7 @@ void RunImport(const ImportOptions& options, std::ostream& out) {
                 continue;
             }
             Accelerogram record;
-            const int failed = kinds[i] == RecordFileKind::Itaca
+            const int failed = kinds[i] == seisplot::RecordFileKind::Itaca
                                    ? record.ReadASC(1, name, path)
                                    : record.ReadTXTPLT(1, name, path, units);
             if (failed != 0) {

@@ -196,8 +196,8 @@ void RunCode(const CodeOptions& options, std::ostream& out) {
     const std::string kind = options.q == 1.0 ? "elastic" : "design";
     if (options.plot.file) {
         PCurve curve;
-        curve.XUnit = 12;
-        curve.YUnit = 9;
+        curve.XUnit = seisplot::UnitKind::Time;
+        curve.YUnit = seisplot::UnitKind::PureNumber;
         curve.XName = "T";
         curve.YName = "Se(T) [g]";
         for (const auto& [period, se] : points) {

@@ -28,9 +28,6 @@ public:
     r2box(double ax, double ay, double bx, double by);
     r2box(const RPoint2D& a, const RPoint2D& b) : r2box(a.GetX(), a.GetY(), b.GetX(), b.GetY()) {}
 
-    double Dx() const { return xmax - xmin; }
-    double Dy() const { return ymax - ymin; }
-
     double xmin = 0.0;
     double ymin = 0.0;
     double xmax = 0.0;

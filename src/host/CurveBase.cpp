@@ -65,8 +65,8 @@ void CurveBase::Serialize(CArchive& ar) {
     BYTE yUnit = 0;
     DWORD n = 0;
     ar >> xUnit >> yUnit >> XName >> YName >> n;
-    XUnit = xUnit;
-    YUnit = yUnit;
+    XUnit = static_cast<UnitKind>(xUnit);
+    YUnit = static_cast<UnitKind>(yUnit);
     CheckCount(ar, n, 2 * sizeof(double));
     RPoint2DColl points;
     points.Reserve(static_cast<int>(n));

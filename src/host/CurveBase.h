@@ -2,15 +2,13 @@
 // What a function curve (PCurve) and a free polyline (PMCurve) share: a title (the name),
 // the unit kind and name of each axis, and the points.
 //
-// Unit kinds: 1 length, 2 surface, 3 volume, 4 length to the fourth, 5 force, 6 moment,
-// 7 stress, 8 rotation, 9 pure number, 10 acceleration, 11 velocity, 12 time.
-//
 // Archive form: the selectable part; a 16-bit version (1); x and y unit kinds (bytes); x and
 // y axis names (strings); the number of points (32-bit) and each point's x and y (doubles);
 // then the number of points that carry a name or a selection (32-bit), each as its index
 // (32-bit, from 0) followed by its selectable part.
 
 #include "host/RPoint2DColl.h"
+#include "host/UnitKind.h"
 
 namespace seisplot {
 
@@ -41,8 +39,8 @@ public:
     double GetMinY() const;
     double GetMaxY() const;
 
-    unsigned char XUnit = 9;
-    unsigned char YUnit = 9;
+    UnitKind XUnit = UnitKind::PureNumber;
+    UnitKind YUnit = UnitKind::PureNumber;
     CString XName;
     CString YName;
 

@@ -15,14 +15,41 @@ template <class Curve> void RemoveAt(std::vector<Curve>& curves, int i) {
 }
 
 template <class Curve>
+void StoreCurves(const std::vector<Curve>& curves, const char* tag, CArchive& ar) {
+    ar << CString(tag) << kFileVersion << static_cast<DWORD>(curves.size());
+    for (Curve curve : curves) {
+        curve.Serialize(ar);
+    }
+}
+
+// Reads the whole collection aside: a failed read raises and leaves `curves` as they were.
+template <class Curve> void LoadCurves(std::vector<Curve>& curves, const char* tag, CArchive& ar) {
+    CString found;
+    WORD version = 0;
+    DWORD count = 0;
+    ar >> found;
+    if (found != tag) {
+        AfxThrowArchiveException(CArchiveException::badClass, ar.m_strFileName);
+    }
+    ar >> version;
+    if (version != kFileVersion) {
+        AfxThrowArchiveException(CArchiveException::badSchema, ar.m_strFileName);
+    }
+    ar >> count;
+    seisplot::CheckCount(ar, count, 1);
+    std::vector<Curve> read(count);
+    for (Curve& curve : read) {
+        curve.Serialize(ar);
+    }
+    curves = std::move(read);
+}
+
+template <class Curve>
 int WriteCurves(const std::vector<Curve>& curves, const char* tag, const char* path) {
     try {
         CFile file(path, CFile::modeCreate | CFile::modeWrite);
         CArchive ar(&file, CArchive::store);
-        ar << CString(tag) << kFileVersion << static_cast<DWORD>(curves.size());
-        for (Curve curve : curves) {
-            curve.Serialize(ar);
-        }
+        StoreCurves(curves, tag, ar);
         ar.Close();
         file.Close();
         return 0;
@@ -37,20 +64,7 @@ int ReadCurves(std::vector<Curve>& curves, const char* tag, const char* path) {
     try {
         CFile file(path, CFile::modeRead);
         CArchive ar(&file, CArchive::load);
-        CString found;
-        WORD version = 0;
-        DWORD count = 0;
-        ar >> found >> version;
-        if (found != tag || version != kFileVersion) {
-            return 1;
-        }
-        ar >> count;
-        seisplot::CheckCount(ar, count, 1);
-        std::vector<Curve> read(count);
-        for (Curve& curve : read) {
-            curve.Serialize(ar);
-        }
-        curves = std::move(read);
+        LoadCurves(curves, tag, ar);
         return 0;
     } catch (CException* e) {
         e->Delete();
@@ -69,6 +83,13 @@ const PCurve* PCurveColl::GetP(int i) const {
 void PCurveColl::RemovePCurve(int i) {
     RemoveAt(m_curves, i);
 }
+void PCurveColl::Serialize(CArchive& ar) {
+    if (ar.IsStoring()) {
+        StoreCurves(m_curves, "PCurveColl", ar);
+    } else {
+        LoadCurves(m_curves, "PCurveColl", ar);
+    }
+}
 int PCurveColl::ReadFromFile(const char* path) {
     return ReadCurves(m_curves, "PCurveColl", path);
 }
@@ -84,6 +105,13 @@ const PMCurve* PMCurveColl::GetP(int i) const {
 }
 void PMCurveColl::RemovePMCurve(int i) {
     RemoveAt(m_curves, i);
+}
+void PMCurveColl::Serialize(CArchive& ar) {
+    if (ar.IsStoring()) {
+        StoreCurves(m_curves, "PMCurveColl", ar);
+    } else {
+        LoadCurves(m_curves, "PMCurveColl", ar);
+    }
 }
 int PMCurveColl::ReadFromFile(const char* path) {
     return ReadCurves(m_curves, "PMCurveColl", path);

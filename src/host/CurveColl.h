@@ -1,10 +1,12 @@
 #pragma once
 // PCurveColl and PMCurveColl: collections of curves, numbered from 1, that store copies.
 //
-// Files (*.pcc and *.pmc): the collection's class name (string "PCurveColl" or
-// "PMCurveColl"), a 16-bit version (1), the number of curves (32-bit), then each curve's
-// archive form. ReadFromFile and WriteToFile return 0 on success and 1 on failure; a failed
-// read leaves the collection as it was.
+// Archive form (Serialize), which is also the whole of a file (*.pcc and *.pmc): the
+// collection's class name (string "PCurveColl" or "PMCurveColl"), a 16-bit version (1), the
+// number of curves (32-bit), then each curve's archive form. A failed read raises the
+// archive's exception (another class name: badClass; another version: badSchema) and leaves
+// the collection as it was. ReadFromFile and WriteToFile return 0 on success and 1 on
+// failure.
 
 #include "host/PCurve.h"
 
@@ -21,6 +23,7 @@ public:
     void RemovePCurve(int i);
     void Free() { m_curves.clear(); }
 
+    void Serialize(CArchive& ar);
     int ReadFromFile(const char* path);
     int WriteToFile(const char* path) const;
 
@@ -37,6 +40,7 @@ public:
     void RemovePMCurve(int i);
     void Free() { m_curves.clear(); }
 
+    void Serialize(CArchive& ar);
     int ReadFromFile(const char* path);
     int WriteToFile(const char* path) const;
 

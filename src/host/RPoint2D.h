@@ -70,12 +70,6 @@ public:
     }
     double GetX() const { return m_x; }
     double GetY() const { return m_y; }
-    double GetZ() const { return m_z; }
-    void SetCoo(double x, double y, double z) {
-        m_x = x;
-        m_y = y;
-        m_z = z;
-    }
 
     static CRuntimeClass classRPoint3D;
 

@@ -3,6 +3,8 @@
 // from 1; operator[] counts from 0.
 
 #include "host/RPoint2D.h"
+#include "platform/core/Exceptions.h"
+#include "platform/core/FailureInjection.h"
 
 #include <vector>
 
@@ -23,8 +25,14 @@ public:
     void IncreaseStruct(int n);
     // Makes room for n points without changing the count.
     void Reserve(int n);
-    void Add(const RPoint2D& point) { m_points.push_back(point); }
-    void AddPoint(double x, double y) { m_points.emplace_back(x, y); }
+    void Add(const RPoint2D& point) {
+        Grow();
+        m_points.push_back(point);
+    }
+    void AddPoint(double x, double y) {
+        Grow();
+        m_points.emplace_back(x, y);
+    }
     // Removes point i (from 1); nothing happens when there is none.
     void RemovePoint(int i);
     void Clear() { m_points.clear(); }
@@ -34,5 +42,12 @@ public:
     void UnSelectAll(unsigned short layer);
 
 private:
+    // Raises CMemoryException* where a test makes growth fail.
+    static void Grow() {
+        if (seisplot::ShouldFail(seisplot::FailurePoint::PointAddition)) {
+            AfxThrowMemoryException();
+        }
+    }
+
     std::vector<RPoint2D> m_points;
 };

@@ -45,3 +45,31 @@ CPoint* RPoly::GetNPoly(double sx, double sy, CPoint offset) const {
     }
     return points;
 }
+
+void RPoly::Serialize(CArchive& ar) {
+    constexpr WORD kVersion = 1;
+    if (ar.IsStoring()) {
+        ar << kVersion << static_cast<DWORD>(m_vertices.size());
+        for (const RPoint2D& v : m_vertices) {
+            ar << v.GetX() << v.GetY();
+        }
+        return;
+    }
+    WORD version = 0;
+    DWORD count = 0;
+    ar >> version;
+    if (version != kVersion) {
+        AfxThrowArchiveException(CArchiveException::badSchema, ar.m_strFileName);
+    }
+    ar >> count;
+    seisplot::CheckCount(ar, count, 2 * sizeof(double));
+    std::vector<RPoint2D> read;
+    read.reserve(count);
+    for (DWORD i = 0; i < count; ++i) {
+        double x = 0.0;
+        double y = 0.0;
+        ar >> x >> y;
+        read.emplace_back(x, y);
+    }
+    m_vertices = std::move(read);
+}

@@ -1,7 +1,12 @@
 #pragma once
 // RPoly: a closed polygon of the geometry library, its vertices numbered from 1.
+//
+// Archive form (Serialize): a 16-bit version (1), the number of vertices (32-bit), then each
+// vertex's x and y (doubles). A failed read raises the archive's exception and leaves the
+// polygon as it was.
 
 #include "host/RPoint2D.h"
+#include "platform/core/CArchive.h"
 #include "platform/core/CPoint.h"
 
 #include <vector>
@@ -30,6 +35,8 @@ public:
     // A new array of GetNPoint() device points offset + (x·sx, y·sy), each coordinate rounded
     // to the nearest integer; the caller frees it with delete[]. Null for an empty polygon.
     CPoint* GetNPoly(double sx, double sy, CPoint offset) const;
+
+    void Serialize(CArchive& ar);
 
 private:
     std::vector<RPoint2D> m_vertices;

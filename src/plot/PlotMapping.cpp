@@ -8,57 +8,57 @@
 
 namespace seisplot {
 
-double DisplayValue(const Units* units, unsigned char kind, double value) {
+double DisplayValue(const Units* units, UnitKind kind, double value) {
     if (units == nullptr) {
         return value;
     }
     switch (kind) {
-    case 1:
+    case UnitKind::Length:
         return units->L_U(value);
-    case 2:
+    case UnitKind::Surface:
         return units->A_U(value);
-    case 3:
+    case UnitKind::Volume:
         return units->V_U(value);
-    case 4:
+    case UnitKind::LengthToTheFourth:
         return units->J_U(value);
-    case 5:
+    case UnitKind::Force:
         return units->F_U(value);
-    case 6:
+    case UnitKind::Moment:
         return units->M_U(value);
-    case 7:
+    case UnitKind::Stress:
         return units->Pr_U(value);
-    case 10:
+    case UnitKind::Acceleration:
         return units->Acc_U(value);
-    case 11:
+    case UnitKind::Velocity:
         return units->Vel_U(value);
-    case 12:
+    case UnitKind::Time:
         return units->T_U(value);
     default:
         return value; // rotations, pure numbers and unknown kinds
     }
 }
 
-CString UnitLabel(const Units* units, unsigned char kind) {
-    if (kind == 8) {
+CString UnitLabel(const Units* units, UnitKind kind) {
+    if (kind == UnitKind::Rotation) {
         return "(rad)"; // fixed: it needs no unit system
     }
     if (units == nullptr) {
         return CString();
     }
     switch (kind) {
-    case 1:
+    case UnitKind::Length:
         return units->GetWrapLString();
-    case 2:
+    case UnitKind::Surface:
         return units->GetWrapAString();
-    case 5:
+    case UnitKind::Force:
         return units->GetWrapFString();
-    case 6:
+    case UnitKind::Moment:
         return units->GetWrapMString();
-    case 10:
+    case UnitKind::Acceleration:
         return units->GetWrapAccString();
-    case 11:
+    case UnitKind::Velocity:
         return units->GetWrapVelString();
-    case 12:
+    case UnitKind::Time:
         return units->GetWrapTiString();
     default:
         return CString();

@@ -12,9 +12,9 @@
 namespace seisplot {
 
 // An internal value of unit kind `kind` in the user's unit; unchanged without units.
-double DisplayValue(const Units* units, unsigned char kind, double value);
+double DisplayValue(const Units* units, UnitKind kind, double value);
 // The label that follows an axis name for unit kind `kind`; empty when there is none.
-CString UnitLabel(const Units* units, unsigned char kind);
+CString UnitLabel(const Units* units, UnitKind kind);
 
 // A curve as the plot shows it: values in the user's units, horizontal and vertical taken
 // from y and x when exchanged.
@@ -23,8 +23,8 @@ public:
     DisplayedCurve(const CurveBase& curve, const Units* units, bool exchange)
         : m_curve(curve), m_units(units), m_exchange(exchange) {}
 
-    unsigned char HKind() const { return m_exchange ? m_curve.YUnit : m_curve.XUnit; }
-    unsigned char VKind() const { return m_exchange ? m_curve.XUnit : m_curve.YUnit; }
+    UnitKind HKind() const { return m_exchange ? m_curve.YUnit : m_curve.XUnit; }
+    UnitKind VKind() const { return m_exchange ? m_curve.XUnit : m_curve.YUnit; }
     double H(const RPoint2D& p) const { return Show(HKind(), m_exchange ? p.GetY() : p.GetX()); }
     double V(const RPoint2D& p) const { return Show(VKind(), m_exchange ? p.GetX() : p.GetY()); }
     double HMin() const {
@@ -47,8 +47,8 @@ public:
     double VSpan3() const;
 
 private:
-    double Show(unsigned char kind, double v) const { return DisplayValue(m_units, kind, v); }
-    CString Title(const CString& name, unsigned char kind) const {
+    double Show(UnitKind kind, double v) const { return DisplayValue(m_units, kind, v); }
+    CString Title(const CString& name, UnitKind kind) const {
         return name + UnitLabel(m_units, kind);
     }
 

@@ -12,16 +12,11 @@ CRuntimeClass* Accelerogram::GetRuntimeClass() const {
     return &classAccelerogram;
 }
 
-namespace {
-
-constexpr unsigned char kTimeKind = 12;
-constexpr unsigned char kAccelerationKind = 10;
-
-} // namespace
+namespace {} // namespace
 
 void Accelerogram::SetRecordUnits() {
-    Record.XUnit = kTimeKind;
-    Record.YUnit = kAccelerationKind;
+    Record.XUnit = seisplot::UnitKind::Time;
+    Record.YUnit = seisplot::UnitKind::Acceleration;
 }
 
 void Accelerogram::PrepareImport() {
@@ -162,5 +157,6 @@ void Accelerogram::AssertValid() const {
     assert(IsVertical == 0 || IsVertical == 1);
     assert(IsSynthetic == 0 || IsSynthetic == 1);
     assert(SyntheticKind == 0 || SyntheticKind == 1);
-    assert(Record.XUnit == kTimeKind && Record.YUnit == kAccelerationKind);
+    assert(Record.XUnit == seisplot::UnitKind::Time &&
+           Record.YUnit == seisplot::UnitKind::Acceleration);
 }

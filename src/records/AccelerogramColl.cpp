@@ -28,28 +28,6 @@ constexpr int kArchiveBufferSize = 4096;
 // The file dialog's name buffer: room for 500 paths of 260 characters plus separators.
 constexpr std::size_t kNameBufferSize = 130501;
 
-// How a record file is read, by the end of its name.
-enum class RecordFileKind { Itaca, TwoColumn, Unknown };
-
-RecordFileKind KindOf(CString name) {
-    name.MakeUpper();
-    const CString last3 = name.Right(3);
-    const CString last2 = name.Right(2);
-    if (last3 == "ASC") {
-        return RecordFileKind::Itaca;
-    }
-    if (last3 == "PLT" || last3 == "TXT") {
-        return RecordFileKind::TwoColumn;
-    }
-    if (last2 == "RA" || last2 == "TR" || last2 == "UP") {
-        return RecordFileKind::Itaca;
-    }
-    if (last3 == "SEW" || last3 == "SNS") {
-        return RecordFileKind::Itaca;
-    }
-    return RecordFileKind::Unknown;
-}
-
 } // namespace
 
 AccelerogramColl::AccelerogramColl(const AccelerogramColl& other)
@@ -225,11 +203,11 @@ int AccelerogramColl::ReadFromFile(int quiet, CProgressCtrl* progress) {
         }
 
         int failed = 0;
-        switch (KindOf(name)) {
-        case RecordFileKind::Itaca:
+        switch (seisplot::RecordFileKindOf(name)) {
+        case seisplot::RecordFileKind::Itaca:
             failed = record.ReadASC(quiet, name, path);
             break;
-        case RecordFileKind::TwoColumn:
+        case seisplot::RecordFileKind::TwoColumn:
             if (!unitsChosen) {
                 AfxMessageBox(14840);
                 units.Reset(nullptr, 1, 0, 1, 0);
@@ -240,7 +218,7 @@ int AccelerogramColl::ReadFromFile(int quiet, CProgressCtrl* progress) {
             }
             failed = record.ReadTXTPLT(quiet, name, path, units);
             break;
-        case RecordFileKind::Unknown: {
+        case seisplot::RecordFileKind::Unknown: {
             AfxMessageBox("Unrecognized file extension");
             CString message;
             message.Format("Unable to read file %s. No acc added.", path.GetString());

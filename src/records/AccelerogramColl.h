@@ -14,8 +14,8 @@
 // unsigned), then each record's archive form in collection order. A record archive file holds
 // exactly that form, with nothing before or after it.
 
+#include "host/ObjectArray.h"
 #include "records/Accelerogram.h"
-#include "records/ObjectArray.h"
 
 #include <cstdint>
 

@@ -13,15 +13,15 @@ int Accelerogram::ReadFromFile(int quiet) {
     }
     const CString path = dialog.GetPathName();
     const CString name = dialog.GetFileName();
-    CString extension = dialog.GetFileExt();
-    extension.MakeUpper();
     int result = 1;
-    if (extension == "ASC" || extension == "RA" || extension == "TR" || extension == "UP" ||
-        extension == "SEW" || extension == "SNS") {
+    switch (seisplot::RecordFileKindOfExtension(dialog.GetFileExt())) {
+    case seisplot::RecordFileKind::Itaca:
         result = ReadASC(quiet, name, path);
-    } else if (extension == "PLT" || extension == "TXT") {
+        break;
+    case seisplot::RecordFileKind::TwoColumn:
         result = ReadTXTPLT(quiet, name, path);
-    } else {
+        break;
+    case seisplot::RecordFileKind::Unknown:
         AfxMessageBox("Unrecognized file extension");
         return 1;
     }

@@ -27,8 +27,8 @@ void GenerateSinusoids(unsigned long count, double DT, unsigned long periodsPerR
         record.Identifier = name;
         record.Explanation.Format("Sinusoidal accelerogram, PGA %7.3lf (g), T=%7.3lf (sec)",
                                   amplitude, T);
-        record.Record.XUnit = 12;
-        record.Record.YUnit = 10;
+        record.Record.XUnit = seisplot::UnitKind::Time;
+        record.Record.YUnit = seisplot::UnitKind::Acceleration;
 
         // Every period repeats the same samples: the sine's argument is the position within
         // the current period, while the time runs on over the whole record.

@@ -3,6 +3,9 @@
 #include "platform/core/CFileDialog.h"
 #include "platform/core/StringTable.h"
 #include "platform/core/UserInterface.h"
+#include "platform/core/WorkerThreads.h"
+#include "records/OscillatorKernel.h"
+#include "records/SpectrumPeaks.h"
 
 #include <algorithm>
 #include <atomic>
@@ -12,7 +15,6 @@
 #include <functional>
 #include <memory>
 #include <mutex>
-#include <thread>
 
 namespace {
 
@@ -30,7 +32,7 @@ bool Stop(const char* message) {
 // The periods of the run, in grid order; false after a message.
 bool BuildGrid(const EnvelopeCriteria& c, const EnvelopeModes& modes, std::vector<double>& T) {
     T.clear();
-    if (c.PeriodSource == 0) {
+    if (c.PeriodSource == EnvelopeCriteria::StructuralModes) {
         T.push_back(0.0);
         for (size_t m = 0; m < modes.Periods.size(); ++m) {
             if (m < modes.Checked.size() && modes.Checked[m]) {
@@ -167,17 +169,10 @@ bool ComposePairs(AccelerogramColl& records, const std::vector<bool>& checked, l
     return true;
 }
 
-// The ordinate of one signal at one period (g).
-double Ordinate(const Accelerogram& signal, double T, double damping) {
-    // The spectrum routines read the record without changing it.
-    Accelerogram& r = const_cast<Accelerogram&>(signal);
-    if (T == 0.0) {
-        return r.GetPga();
-    }
-    double sa = 0.0;
-    r.GetAccSpectrum(damping == 0.0 ? 1e-07 : damping, T, &sa);
-    return sa;
-}
+// Periods of one signal a worker computes at once: enough that the oscillator kernel's lanes
+// stay full while the longest of them runs (a run of 16 took half as long again as one of 64
+// on the sample records), few enough that completed periods reach the caller steadily.
+constexpr size_t kPeriodsPerTask = 64;
 
 // The percentile of values sorted in descending order: the r-th largest, with
 // r = trunc((K + 1) − K·P/100) kept within 1 ... K.
@@ -190,73 +185,84 @@ double Percentile(std::vector<double> values, double percentile) {
 }
 
 // Evaluates every (period, signal) ordinate on worker threads, in period order, and hands
-// each completed period to `done` on the calling thread. False when cancelled.
+// each completed period to `done` on the calling thread. False when cancelled. A failure on
+// any thread, a worker that cannot start included, stops every worker and reaches the caller
+// as a framework exception.
 class OrdinateRun {
 public:
+    // A damping of exactly 0 is computed as 1e-07.
     OrdinateRun(const std::vector<double>& T, const Signals& signals, double damping)
-        : m_T(T), m_signals(signals), m_damping(damping),
-          m_values(T.size() * signals.record.size()), m_left(T.size()) {
+        : m_T(T), m_signals(signals), m_damping(damping == 0.0 ? 1e-07 : damping),
+          m_values(T.size() * signals.record.size()), m_left(T.size()),
+          m_tasks((T.size() + kPeriodsPerTask - 1) / kPeriodsPerTask * signals.record.size()) {
         for (auto& left : m_left) {
             left = static_cast<int>(signals.record.size());
+        }
+        m_flat.reserve(signals.record.size());
+        for (const Accelerogram* signal : signals.record) {
+            m_flat.emplace_back(signal->Record);
         }
     }
 
     bool Run(unsigned threads, EnvelopeProgress* progress,
              const std::function<void(size_t, const double*)>& done) {
-        const size_t tasks = m_values.size();
-        const unsigned workers = static_cast<unsigned>(std::clamp<size_t>(
-            threads == 0 ? std::max(1u, std::thread::hardware_concurrency()) : threads, 1,
-            std::max<size_t>(tasks, 1)));
-        std::vector<std::thread> pool;
-        for (unsigned w = 0; w < workers; ++w) {
-            pool.emplace_back([this] { Work(); });
-        }
+        seisplot::WorkerThreads workers(seisplot::WorkerThreads::CountFor(threads, m_tasks),
+                                        [this](std::stop_token stop) { Work(stop); });
         size_t next = 0; // first period not yet handed on
         bool cancelled = false;
         const size_t K = m_signals.record.size();
         std::unique_lock lock(m_mutex);
-        while (next < m_T.size()) {
+        while (next < m_T.size() && !workers.Failed()) {
             m_changed.wait_for(lock, std::chrono::milliseconds(100),
-                               [&] { return m_left[next] == 0; });
-            while (next < m_T.size() && m_left[next] == 0) {
-                lock.unlock();
+                               [&] { return m_left[next] == 0 || workers.Failed(); });
+            lock.unlock();
+            // `done` may raise; the workers are then stopped and joined on the way out.
+            for (; next < m_T.size() && Completed(next); ++next) {
                 done(next, &m_values[next * K]);
-                lock.lock();
-                ++next;
             }
             if (progress) {
-                lock.unlock();
                 progress->Heartbeat();
                 cancelled = progress->Cancelled();
-                lock.lock();
-                if (cancelled) {
-                    m_stop = true;
-                    break;
-                }
+            }
+            lock.lock();
+            if (cancelled) {
+                break;
             }
         }
         lock.unlock();
-        m_stop = true;
-        for (std::thread& t : pool) {
-            t.join();
-        }
+        workers.RequestStop();
+        workers.Join();
         return !cancelled;
     }
 
 private:
-    void Work() {
+    bool Completed(size_t period) {
+        const std::lock_guard guard(m_mutex);
+        return m_left[period] == 0;
+    }
+
+    // A task is a run of periods of one signal, in period order then signal order.
+    void Work(const std::stop_token& stop) {
         const size_t K = m_signals.record.size();
-        for (;;) {
+        double sa[kPeriodsPerTask];
+        while (!stop.stop_requested()) {
             const size_t task = m_nextTask.fetch_add(1);
-            if (task >= m_values.size() || m_stop) {
+            if (task >= m_tasks) {
                 return;
             }
-            const size_t j = task / K;
+            const size_t first = task / K * kPeriodsPerTask;
+            const size_t count = std::min(kPeriodsPerTask, m_T.size() - first);
             const size_t k = task % K;
-            m_values[task] = Ordinate(*m_signals.record[k], m_T[j], m_damping);
+            seisplot::AccelerationOrdinates(*m_signals.record[k], m_flat[k], m_damping,
+                                            {&m_T[first], count}, {sa, count}, 1);
+            for (size_t j = first; j < first + count; ++j) {
+                m_values[j * K + k] = sa[j - first];
+            }
             {
-                std::lock_guard guard(m_mutex);
-                --m_left[j];
+                const std::lock_guard guard(m_mutex);
+                for (size_t j = first; j < first + count; ++j) {
+                    --m_left[j];
+                }
             }
             m_changed.notify_one();
         }
@@ -267,8 +273,9 @@ private:
     const double m_damping;
     std::vector<double> m_values;
     std::vector<int> m_left; // ordinates still to compute, per period
+    const size_t m_tasks;
+    std::vector<seisplot::FlatRecord> m_flat; // of each signal
     std::atomic<size_t> m_nextTask{0};
-    std::atomic<bool> m_stop{false};
     std::mutex m_mutex;
     std::condition_variable m_changed;
 };
@@ -276,8 +283,9 @@ private:
 } // namespace
 
 CString EnvelopeRunTitle(const EnvelopeCriteria& c) {
-    CString title = c.PeriodSource == 0 ? "Structural Modes - " : "Generic - ";
-    if (c.Statistic == 0) {
+    CString title =
+        c.PeriodSource == EnvelopeCriteria::StructuralModes ? "Structural Modes - " : "Generic - ";
+    if (c.Statistic == EnvelopeCriteria::CompleteEnvelope) {
         title += "Complete Envelope - ";
     } else {
         title.AppendFormat("Envelope %7.3lf percentile - ", c.Percentile);
@@ -295,8 +303,8 @@ EnvelopeOutcome ComputeEnvelopeSpectrum(const EnvelopeCriteria& criteria, Accele
     track.SetName("Track of signals");
     track.XName = "T (sec)";
     track.YName = "Accelerogram #";
-    track.XUnit = 12;
-    track.YUnit = 9;
+    track.XUnit = seisplot::UnitKind::Time;
+    track.YUnit = seisplot::UnitKind::PureNumber;
 
     // The oscillator has no spectrum at or beyond critical damping.
     if (!(criteria.Damping < 1.0) || criteria.Damping < 0.0) {
@@ -317,13 +325,13 @@ EnvelopeOutcome ComputeEnvelopeSpectrum(const EnvelopeCriteria& criteria, Accele
         AfxMessageBox(kNoRecordMessage);
         return EnvelopeOutcome::Stopped;
     }
-    if (criteria.SignalUse == 1 && checkedCount % 2 != 0) {
+    if (criteria.SignalUse == EnvelopeCriteria::ComposedPairs && checkedCount % 2 != 0) {
         Stop("Error to compose accelerograms the number of selected accelerograms must be even");
         return EnvelopeOutcome::Stopped;
     }
 
     Signals signals;
-    if (criteria.SignalUse == 1) {
+    if (criteria.SignalUse == EnvelopeCriteria::ComposedPairs) {
         long pairs = 0;
         if (!PairRecords(records, recordChecked, pairs) ||
             !ComposePairs(records, recordChecked, checkedCount / 2, criteria.Direction, signals)) {
@@ -358,8 +366,8 @@ EnvelopeOutcome ComputeEnvelopeSpectrum(const EnvelopeCriteria& criteria, Accele
     envelope.Curve.SetName(curveName);
     envelope.Curve.XName = "Period T (sec)";
     envelope.Curve.YName = "Se,a(T) [g]";
-    envelope.Curve.XUnit = 12;
-    envelope.Curve.YUnit = 9;
+    envelope.Curve.XUnit = seisplot::UnitKind::Time;
+    envelope.Curve.YUnit = seisplot::UnitKind::PureNumber;
 
     auto* heard = dynamic_cast<EnvelopeProgress*>(progress);
     if (progress) {
@@ -369,7 +377,7 @@ EnvelopeOutcome ComputeEnvelopeSpectrum(const EnvelopeCriteria& criteria, Accele
     }
     const size_t K = signals.record.size();
     bool finished = false;
-    {
+    try {
         CWaitCursor wait;
         OrdinateRun run(T, signals, criteria.Damping);
         finished = run.Run(threads, heard, [&](size_t j, const double* values) {
@@ -377,7 +385,7 @@ EnvelopeOutcome ComputeEnvelopeSpectrum(const EnvelopeCriteria& criteria, Accele
                 progress->StepIt();
             }
             double value = 0.0;
-            if (criteria.Statistic == 0) {
+            if (criteria.Statistic == EnvelopeCriteria::CompleteEnvelope) {
                 long winner = signals.number.front();
                 for (size_t k = 0; k < K; ++k) {
                     if (values[k] > value) {
@@ -391,6 +399,13 @@ EnvelopeOutcome ComputeEnvelopeSpectrum(const EnvelopeCriteria& criteria, Accele
             }
             envelope.Curve.AddPoint(T[j], value);
         });
+    } catch (...) {
+        // A failed run leaves no half track behind.
+        track.Clear();
+        if (progress) {
+            progress->SetPos(0);
+        }
+        throw;
     }
     if (progress) {
         progress->SetPos(0);

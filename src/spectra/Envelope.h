@@ -10,15 +10,29 @@
 #include <vector>
 
 // The settings of one run (the dialog's members, with a new dialog's defaults).
+// The three choices are held as the numbers of the dialog's radio buttons.
 struct EnvelopeCriteria {
-    int PeriodSource = 0;     // 0: the checked natural periods of the structure; 1: a regular grid
-    double MaxPeriod = 0.0;   // s, last period of the regular grid
-    double PeriodStep = 0.0;  // s, step of the regular grid
-    double Damping = 0.05;    // fraction of critical; a run refuses 1 or more
-    int SignalUse = 0;        // 0: each checked record is a signal; 1: records composed in pairs
-    double Direction = 0.0;   // degrees from W towards E, counter-clockwise: direction of a pair
-    int Statistic = 0;        // 0: complete envelope (maximum); 1: percentile
-    double Percentile = 95.0; // %, kept when Statistic is 1
+    enum PeriodSourceCode {
+        StructuralModes = 0, // the checked natural periods of the structure
+        RegularGrid = 1,
+    };
+    enum SignalUseCode {
+        EachRecord = 0,    // each checked record is a signal
+        ComposedPairs = 1, // the horizontal records of an event composed in pairs
+    };
+    enum StatisticCode {
+        CompleteEnvelope = 0, // the largest ordinate
+        PercentileEnvelope = 1,
+    };
+
+    int PeriodSource = StructuralModes;
+    double MaxPeriod = 0.0;  // s, last period of the regular grid
+    double PeriodStep = 0.0; // s, step of the regular grid
+    double Damping = 0.05;   // fraction of critical; a run refuses 1 or more
+    int SignalUse = EachRecord;
+    double Direction = 0.0; // degrees from W towards E, counter-clockwise: direction of a pair
+    int Statistic = CompleteEnvelope;
+    double Percentile = 95.0; // %, kept for a percentile envelope
 };
 
 // The structure's modes: M natural periods (s) and 3·M participation fractions (X, Y, Z of
@@ -49,7 +63,9 @@ CString EnvelopeRunTitle(const EnvelopeCriteria& criteria);
 // their selection flag of view 5 used as scratch. `recordChecked[i]` is the check state of
 // record i + 1. `progress` may be null; when it is an EnvelopeProgress it is also told how
 // the run goes and may cancel it. The ordinates are computed on `threads` threads (0: one
-// per processor); the result is the same for any number.
+// per processor); the result is the same for any number. A memory failure or a worker that
+// cannot start raises CMemoryException* or CResourceException* on the calling thread, with
+// every worker stopped, nothing appended and the track empty.
 EnvelopeOutcome ComputeEnvelopeSpectrum(const EnvelopeCriteria& criteria, AccelerogramColl& records,
                                         const std::vector<bool>& recordChecked,
                                         const EnvelopeModes& modes, SpectrumColl& spectra,

@@ -12,11 +12,9 @@ CRuntimeClass* Spectrum::GetRuntimeClass() const {
 
 namespace {
 
-constexpr unsigned char kPureNumberKind = 9;
-
 void SetSpectrumUnits(PCurve& curve) {
-    curve.XUnit = kPureNumberKind;
-    curve.YUnit = kPureNumberKind;
+    curve.XUnit = seisplot::UnitKind::PureNumber;
+    curve.YUnit = seisplot::UnitKind::PureNumber;
 }
 
 } // namespace

@@ -13,7 +13,7 @@
 // unsigned), then each spectrum's archive form in collection order. WriteToFile and
 // ReadFromFile use a file that holds exactly that form, with nothing before or after it.
 
-#include "records/ObjectArray.h"
+#include "host/ObjectArray.h"
 #include "spectra/Spectrum.h"
 
 #include <cstdint>

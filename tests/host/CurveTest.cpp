@@ -84,8 +84,8 @@ TEST(CurveTest, ExtremesAndPointAccess) {
 TEST(CurveTest, ArchiveKeepsEverythingIncludingPointMarks) {
     PMCurve c;
     c.SetName("polyline");
-    c.XUnit = 1;
-    c.YUnit = 10;
+    c.XUnit = seisplot::UnitKind::Length;
+    c.YUnit = seisplot::UnitKind::Acceleration;
     c.XName = "Se,d";
     c.YName = "Se,a";
     c.AddPoint(1.5, -2.0);

@@ -2,6 +2,7 @@
 #include "host/Intersect.h"
 #include "host/Mathp.h"
 #include "host/RPoly.h"
+#include "support/ArchiveBytes.h"
 
 #include <gtest/gtest.h>
 
@@ -96,4 +97,29 @@ TEST(MathpTest, KeepsSignificantDigits) {
     EXPECT_EQ(Mathp::TakeNDigit(100.0, 2), 100.0); // an exact power of ten stays
     EXPECT_EQ(Mathp::TakeNDigit(0.3, 2), 0.3);
     EXPECT_EQ(Mathp::TakeNDigit(0.0, 2), 0.0);
+}
+
+TEST(GeometryTest, PolygonArchiveHoldsItsVerticesAndACutStreamChangesNothing) {
+    RPoly square;
+    square.AddPoint(0.0, 0.0);
+    square.AddPoint(1.5, -2.0);
+    const seisplot::test::Bytes bytes = seisplot::test::StoreObject(square);
+    seisplot::test::StreamBuilder expected;
+    expected.Word(1).Dword(2).Double(0.0).Double(0.0).Double(1.5).Double(-2.0);
+    EXPECT_EQ(bytes, expected.bytes());
+    // Every shorter stream raises end-of-file and leaves the polygon it was read into.
+    for (size_t n = 0; n < bytes.size(); ++n) {
+        RPoly kept;
+        kept.AddPoint(9.0, 9.0);
+        const seisplot::test::Bytes cut(bytes.begin(), bytes.begin() + static_cast<long>(n));
+        EXPECT_EQ(seisplot::test::ArchiveCause([&] { seisplot::test::LoadObject(cut, kept); }),
+                  CArchiveException::endOfFile)
+            << n;
+        ASSERT_EQ(kept.GetNPoint(), 1);
+        EXPECT_EQ(kept.GetPoint(1).GetX(), 9.0);
+    }
+    RPoly back;
+    EXPECT_EQ(seisplot::test::LoadObject(bytes, back), 0u);
+    EXPECT_EQ(back.GetNPoint(), 2);
+    EXPECT_EQ(back.GetPoint(2).GetY(), -2.0);
 }

@@ -123,6 +123,15 @@ TEST(CurvePlot, AxesStandWhereTheRangesPutThem) {
         EXPECT_NEAR(p.VAxis().logical[0].x, kCentreX - kFilled / 2, 1);
     }
     {
+        // -10 to -5 (5 / 5 >= 0.75): the axis stands at the left edge -10.505, as for 5 to 10,
+        // not at the right edge nearer to zero.
+        Plot p;
+        PCurve c = CurveOf({{-10, 1}, {-5, 2}});
+        p.Draw(c);
+        EXPECT_EQ(p.VAxis().logical[0].x, p.HAxis().logical[0].x);
+        EXPECT_NEAR(p.VAxis().logical[0].x, kCentreX - kFilled / 2, 1);
+    }
+    {
         // -10 to -1: the right edge is -0.101 times the maximum, 0.101.
         Plot p;
         PCurve c = CurveOf({{-10, 1}, {-1, 2}});
@@ -220,8 +229,8 @@ TEST(CurvePlot, UnitKindsConvertValuesAndLabelTitles) {
     // x of kind 13 stays as it is and has no unit label; y of kind 10 (mm/s²) is shown in
     // m/s² with its label. Range 0 ... 1000 steps by 100; -9.81 ... 9.81 by 2.
     PCurve c = CurveOf({{0, -9810}, {1000, 9810}});
-    c.XUnit = 13;
-    c.YUnit = 10;
+    c.XUnit = static_cast<seisplot::UnitKind>(13); // no kind
+    c.YUnit = seisplot::UnitKind::Acceleration;
     c.XName = "time";
     c.YName = "acc";
     c.GetPColl().Select(2, 1);

@@ -12,8 +12,8 @@ TEST(AccelerogramTest, ConstructorsSetTheDefaults) {
     const Accelerogram a;
     EXPECT_EQ(a.Identifier, "Unknown");
     EXPECT_EQ(a.RecordVersion, 104);
-    EXPECT_EQ(a.Record.XUnit, 12);
-    EXPECT_EQ(a.Record.YUnit, 10);
+    EXPECT_EQ(a.Record.XUnit, seisplot::UnitKind::Time);
+    EXPECT_EQ(a.Record.YUnit, seisplot::UnitKind::Acceleration);
     EXPECT_EQ(a.EventDate.m_dt, 0.0);
     EXPECT_EQ(a.EventDate.GetStatus(), COleDateTime::valid);
     EXPECT_EQ(a.EventTime.GetStatus(), COleDateTime::valid);
@@ -23,8 +23,8 @@ TEST(AccelerogramTest, ConstructorsSetTheDefaults) {
     const Accelerogram v(t, y);
     EXPECT_EQ(v.Record.GetNP(), 3);
     EXPECT_EQ(v.Record.GetPoint(2).GetY(), -2.0);
-    EXPECT_EQ(v.Record.XUnit, 12);
-    EXPECT_EQ(v.Record.YUnit, 10);
+    EXPECT_EQ(v.Record.XUnit, seisplot::UnitKind::Time);
+    EXPECT_EQ(v.Record.YUnit, seisplot::UnitKind::Acceleration);
 }
 
 TEST(AccelerogramTest, PeakGroundAccelerationIsTheLargerMagnitude) {

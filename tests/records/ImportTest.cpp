@@ -1,5 +1,6 @@
 #include "platform/core/ScriptedUserInterface.h"
 #include "records/Accelerogram.h"
+#include "records/ImportFiles.h"
 #include "support/TempDir.h"
 
 #include <gtest/gtest.h>
@@ -62,8 +63,8 @@ TEST_F(ImportTest, TwoColumnFiles) {
     EXPECT_EQ(m_record.Explanation, summary);
     EXPECT_EQ(m_ui.MessageTexts(), std::vector<CString>{summary});
     EXPECT_EQ(m_record.FileIdentifier, "steady.txt");
-    EXPECT_EQ(m_record.Record.XUnit, 12);
-    EXPECT_EQ(m_record.Record.YUnit, 10);
+    EXPECT_EQ(m_record.Record.XUnit, seisplot::UnitKind::Time);
+    EXPECT_EQ(m_record.Record.YUnit, seisplot::UnitKind::Acceleration);
 
     // The last sample moved to 0.035 s: the step is no longer constant. Quiet: no summary.
     Units mm;
@@ -271,4 +272,31 @@ TEST_F(ImportTest, PickingAFileDispatchesOnItsExtension) {
     m_ui.QueueUnits({true, {{"Length", "mm"}}});
     ASSERT_EQ(m_record.ReadFromFile(1), 0);
     EXPECT_EQ(m_record.Record[1].GetY(), 2.0);
+}
+
+TEST(RecordFileKindTest, NameEndsAndWholeExtensionsTellTheReader) {
+    using seisplot::RecordFileKind;
+    struct Case {
+        const char* name;
+        RecordFileKind byName;
+        const char* extension;
+        RecordFileKind byExtension;
+    };
+    const Case cases[] = {
+        {"dir/x.asc", RecordFileKind::Itaca, "asc", RecordFileKind::Itaca},
+        {"X.TXT", RecordFileKind::TwoColumn, "TXT", RecordFileKind::TwoColumn}, // not "TR"
+        {"a.plt", RecordFileKind::TwoColumn, "Plt", RecordFileKind::TwoColumn},
+        {"FOORA", RecordFileKind::Itaca, "", RecordFileKind::Unknown}, // the end, no dot
+        {"a.xra", RecordFileKind::Itaca, "xra", RecordFileKind::Unknown},
+        {"b.Tr", RecordFileKind::Itaca, "Tr", RecordFileKind::Itaca},
+        {"c.sns", RecordFileKind::Itaca, "sns", RecordFileKind::Itaca},
+        {"d.SEW", RecordFileKind::Itaca, "SEW", RecordFileKind::Itaca},
+        {"e.up", RecordFileKind::Itaca, "up", RecordFileKind::Itaca},
+        {"f.dat", RecordFileKind::Unknown, "dat", RecordFileKind::Unknown},
+        {"", RecordFileKind::Unknown, "A", RecordFileKind::Unknown},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(seisplot::RecordFileKindOf(c.name), c.byName) << c.name;
+        EXPECT_EQ(seisplot::RecordFileKindOfExtension(c.extension), c.byExtension) << c.extension;
+    }
 }

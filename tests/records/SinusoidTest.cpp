@@ -26,8 +26,8 @@ TEST(SinusoidTest, DefaultSeriesIsAppendedWithNamesAndSamples) {
     EXPECT_EQ(first.Explanation, "Sinusoidal accelerogram, PGA   0.200 (g), T=  0.025 (sec)");
     EXPECT_EQ(first.FileIdentifier, "");
     EXPECT_EQ(first.IsSynthetic, 0);
-    EXPECT_EQ(first.Record.XUnit, 12);
-    EXPECT_EQ(first.Record.YUnit, 10);
+    EXPECT_EQ(first.Record.XUnit, seisplot::UnitKind::Time);
+    EXPECT_EQ(first.Record.YUnit, seisplot::UnitKind::Acceleration);
     EXPECT_EQ(records.GetP(3)->Identifier, "SIN_PGA=   0.200(g)_Period=  0.050(sec)_NPTS=991");
     EXPECT_EQ(records.GetP(101)->Explanation,
               "Sinusoidal accelerogram, PGA   0.200 (g), T=  2.500 (sec)");

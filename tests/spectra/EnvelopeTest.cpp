@@ -1,4 +1,5 @@
 #include "spectra/Envelope.h"
+#include "platform/core/FailureInjection.h"
 #include "platform/core/ScriptedUserInterface.h"
 #include "support/ArchiveBytes.h"
 #include "support/SampledRecord.h"
@@ -48,7 +49,7 @@ struct Scenario {
     }
     std::vector<CString> Messages() const { return ui.MessageTexts(); }
     void Grid(double maxPeriod, double step) {
-        criteria.PeriodSource = 1;
+        criteria.PeriodSource = EnvelopeCriteria::RegularGrid;
         criteria.MaxPeriod = maxPeriod;
         criteria.PeriodStep = step;
     }
@@ -71,8 +72,8 @@ protected:
 TEST(EnvelopeTest, RunTitleKeepsItsFieldWidths) {
     EnvelopeCriteria c;
     EXPECT_EQ(EnvelopeRunTitle(c), "Structural Modes - Complete Envelope - Damping  0.050");
-    c.PeriodSource = 1;
-    c.Statistic = 1;
+    c.PeriodSource = EnvelopeCriteria::RegularGrid;
+    c.Statistic = EnvelopeCriteria::PercentileEnvelope;
     c.Percentile = 84.0;
     EXPECT_EQ(EnvelopeRunTitle(c), "Generic - Envelope  84.000 percentile - Damping  0.050");
     c.Percentile = 100.0;
@@ -102,8 +103,8 @@ TEST(EnvelopeTest, CompleteEnvelopeOverARegularGridOnAnyNumberOfThreads) {
                               run.track.XName, run.track.YName}),
         (std::vector<CString>{"Envelope Spectrum (2 signals)", "Period T (sec)", "Se,a(T) [g]",
                               "Track of signals", "T (sec)", "Accelerogram #"}));
-    EXPECT_EQ(s.Curve.XUnit, 12);
-    EXPECT_EQ(s.Curve.YUnit, 9);
+    EXPECT_EQ(s.Curve.XUnit, seisplot::UnitKind::Time);
+    EXPECT_EQ(s.Curve.YUnit, seisplot::UnitKind::PureNumber);
     ASSERT_EQ(s.Curve.GetNP(), 5); // 0, 0.25, 0.5, 0.75, 1.0
     Accelerogram& c = *run.records.GetP(3);
     for (int j = 0; j < 5; ++j) {
@@ -141,7 +142,7 @@ TEST(EnvelopeTest, PercentileRankAndTrackTies) {
             double a[] = {0.0, 981.0 * i};
             run.Add(Accelerogram(2, t, a));
         }
-        run.criteria.Statistic = 1;
+        run.criteria.Statistic = EnvelopeCriteria::PercentileEnvelope;
         run.criteria.Percentile = percentile;
         EXPECT_EQ(run.Go(), EnvelopeOutcome::Added);
         return run.spectra.GetP(1)->Curve[0].GetY() * 10.0;
@@ -173,7 +174,7 @@ TEST(EnvelopeTest, PairsAreComposedAlongTheDirection) {
     run.Add(Record("N.ASC", "E1", 90.0, 0, 800.0)); // larger angle first: swapped
     run.Add(Record("Z.ASC", "E1", 0.0, 1, 900.0), false);
     run.Add(Record("E.ASC", "E1", 0.0, 0, 600.0));
-    run.criteria.SignalUse = 1;
+    run.criteria.SignalUse = EnvelopeCriteria::ComposedPairs;
     run.criteria.Direction = 30.0;
     run.modes.Periods = {0.4};
     run.modes.Checked = {true};
@@ -242,7 +243,7 @@ TEST(EnvelopeTest, PairingStopsWithItsMessages) {
             file.Format("r%zu.ASC", run.checked.size() + 1);
             run.Add(Record(file.GetString(), in.event, in.angle, in.vertical, 500.0));
         }
-        run.criteria.SignalUse = 1;
+        run.criteria.SignalUse = EnvelopeCriteria::ComposedPairs;
         const bool added = c.message == "OK!";
         EXPECT_EQ(run.Go(), added ? EnvelopeOutcome::Added : EnvelopeOutcome::Stopped);
         EXPECT_EQ(run.Messages(), std::vector<CString>{c.message});
@@ -323,4 +324,41 @@ TEST(EnvelopeTest, Ec8RatingStopsAtTheFirstPeak) {
     first.Curve.AddPoint(1.5, 0.99);
     EXPECT_EQ(MatchEc8SoilClasses(first).Verdict,
               "Soil A:NO Soil B:NO Soil C:OK Soil D:OK Soil E:OK ");
+}
+
+TEST(EnvelopeTest, FailuresOnAnyThreadReachTheCallerAndAppendNothing) {
+    struct Case {
+        seisplot::FailurePoint point;
+        int successes;
+        bool memory; // CMemoryException, else CResourceException
+    };
+    // The second worker cannot start; the fourth point of the envelope cannot be added while
+    // the workers still run.
+    for (const Case& c : {Case{seisplot::FailurePoint::ThreadStart, 1, false},
+                          Case{seisplot::FailurePoint::PointAddition, 3, true}}) {
+        Scenario run;
+        run.Add(Record("a", "E1", 0.0, 0, 1000.0));
+        run.Add(Record("c", "E3", 0.0, 0, 2000.0));
+        run.Grid(2.0, 0.05);
+        run.spectra.AddSpectrum(Spectrum());
+        const auto before = StoreObject(run.spectra);
+        bool memory = false;
+        bool resource = false;
+        seisplot::FailAfter(c.point, c.successes);
+        try {
+            run.Go(nullptr, 2);
+        } catch (CMemoryException* e) {
+            memory = true;
+            e->Delete();
+        } catch (CResourceException* e) {
+            resource = true;
+            e->Delete();
+        }
+        seisplot::FailAfter(c.point, -1);
+        EXPECT_EQ(memory, c.memory);
+        EXPECT_EQ(resource, !c.memory);
+        EXPECT_EQ(StoreObject(run.spectra), before);
+        EXPECT_EQ(run.track.GetNP(), 0);
+        EXPECT_TRUE(run.Messages().empty());
+    }
 }

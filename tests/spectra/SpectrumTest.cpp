@@ -103,7 +103,7 @@ TEST(SpectrumTest, CopiesAreDeepAndCarryTheCurrentVersion) {
     Spectrum fromVectors(T, sd);
     ASSERT_EQ(fromVectors.Curve.GetNP(), 2); // the shorter vector
     EXPECT_EQ(fromVectors.Curve[1].GetY(), 30.0);
-    EXPECT_EQ(fromVectors.Curve.XUnit, 9);
+    EXPECT_EQ(fromVectors.Curve.XUnit, seisplot::UnitKind::PureNumber);
 
     CObject* made = CRuntimeClass::CreateObject("Spectrum");
     ASSERT_NE(made, nullptr);

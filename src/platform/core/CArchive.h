@@ -21,9 +21,7 @@ public:
     // Flushes a storing archive that was not closed (errors are swallowed there).
     ~CArchive();
 
-    BOOL IsLoading() const { return m_loading ? TRUE : FALSE; }
     BOOL IsStoring() const { return m_loading ? FALSE : TRUE; }
-    CFile* GetFile() const { return m_file; }
 
     // Writes out what is buffered and detaches from the file (the file stays open).
     void Close();

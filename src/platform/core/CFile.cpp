@@ -133,12 +133,6 @@ ULONGLONG CFile::GetPosition() const {
     return static_cast<ULONGLONG>(at);
 }
 
-void CFile::SetLength(ULONGLONG length) {
-    if (::ftruncate(m_fd, static_cast<off_t>(length)) != 0) {
-        ThrowOsError(errno);
-    }
-}
-
 void CFile::Flush() {
     if (m_fd >= 0 && ::fsync(m_fd) != 0 && errno != EINVAL && errno != EROFS) {
         ThrowOsError(errno);
@@ -170,13 +164,6 @@ void CFile::Remove(LPCTSTR fileName) {
     if (std::remove(fileName) != 0) {
         const int osError = errno;
         AfxThrowFileException(CFileException::OsErrorToException(osError), osError, fileName);
-    }
-}
-
-void CFile::Rename(LPCTSTR oldName, LPCTSTR newName) {
-    if (std::rename(oldName, newName) != 0) {
-        const int osError = errno;
-        AfxThrowFileException(CFileException::OsErrorToException(osError), osError, oldName);
     }
 }
 
@@ -223,9 +210,4 @@ ULONGLONG CMemFile::Seek(LONGLONG offset, UINT from) {
     }
     m_position = static_cast<size_t>(target);
     return m_position;
-}
-
-void CMemFile::SetLength(ULONGLONG length) {
-    m_bytes.resize(static_cast<size_t>(length));
-    m_position = std::min(m_position, m_bytes.size());
 }

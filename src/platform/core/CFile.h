@@ -39,11 +39,8 @@ public:
     virtual UINT Read(void* buffer, UINT count);
     virtual void Write(const void* buffer, UINT count);
     virtual ULONGLONG Seek(LONGLONG offset, UINT from);
-    void SeekToBegin() { Seek(0, begin); }
-    ULONGLONG SeekToEnd() { return Seek(0, end); }
     virtual ULONGLONG GetLength() const;
     virtual ULONGLONG GetPosition() const;
-    virtual void SetLength(ULONGLONG length);
     virtual void Flush();
     virtual void Close();
     // Closes without raising anything.
@@ -51,10 +48,8 @@ public:
 
     CString GetFilePath() const { return m_path; }
     CString GetFileName() const;
-    bool IsOpen() const { return m_fd >= 0; }
 
     static void Remove(LPCTSTR fileName);
-    static void Rename(LPCTSTR oldName, LPCTSTR newName);
 
 protected:
     [[noreturn]] void ThrowOsError(int osError) const;
@@ -77,7 +72,6 @@ public:
     ULONGLONG Seek(LONGLONG offset, UINT from) override;
     ULONGLONG GetLength() const override { return m_bytes.size(); }
     ULONGLONG GetPosition() const override { return m_position; }
-    void SetLength(ULONGLONG length) override;
     void Flush() override {}
     void Close() override {}
     void Abort() override {}

@@ -58,14 +58,6 @@ COleDateTime::COleDateTime(int year, int month, int day, int hour, int minute, i
     SetDateTime(year, month, day, hour, minute, second);
 }
 
-COleDateTime COleDateTime::GetCurrentTime() {
-    const std::time_t now = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&now, &local);
-    return COleDateTime(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour,
-                        local.tm_min, local.tm_sec);
-}
-
 int COleDateTime::SetDateTime(int year, int month, int day, int hour, int minute, int second) {
     if (!seisplot::IsValidDate(year, month, day) || hour < 0 || hour > 23 || minute < 0 ||
         minute > 59 || second < 0 || second > 59) {

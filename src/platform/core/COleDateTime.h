@@ -17,18 +17,11 @@ public:
     // invalid and the value 0.
     COleDateTime(int year, int month, int day, int hour, int minute, int second);
 
-    static COleDateTime GetCurrentTime();
-
     DateTimeStatus GetStatus() const { return m_status; }
     void SetStatus(DateTimeStatus status) { m_status = status; }
 
     // 0 on success, 1 when the date or time is impossible (then status invalid, value 0).
     int SetDateTime(int year, int month, int day, int hour, int minute, int second);
-    int SetDate(int year, int month, int day) { return SetDateTime(year, month, day, 0, 0, 0); }
-    // The time of day on 30 December 1899.
-    int SetTime(int hour, int minute, int second) {
-        return SetDateTime(1899, 12, 30, hour, minute, second);
-    }
 
     // Calendar parts, to the nearest second; -1 unless the status is valid.
     int GetYear() const;

@@ -57,21 +57,8 @@ public:
     int Width() const { return right - left; }
     int Height() const { return bottom - top; }
     CSize Size() const { return CSize(Width(), Height()); }
-    CPoint TopLeft() const { return CPoint(left, top); }
-    CPoint BottomRight() const { return CPoint(right, bottom); }
-    CPoint CenterPoint() const { return CPoint((left + right) / 2, (top + bottom) / 2); }
     bool IsRectEmpty() const { return Width() <= 0 || Height() <= 0; }
-    void SetRect(int l, int t, int r, int b) { *this = CRect(l, t, r, b); }
-    void OffsetRect(int dx, int dy) {
-        left += dx;
-        right += dx;
-        top += dy;
-        bottom += dy;
-    }
     void NormalizeRect();
-    bool PtInRect(CPoint point) const {
-        return point.x >= left && point.x < right && point.y >= top && point.y < bottom;
-    }
     bool operator==(const CRect& other) const {
         return left == other.left && top == other.top && right == other.right &&
                bottom == other.bottom;

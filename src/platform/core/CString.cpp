@@ -44,12 +44,6 @@ char CString::GetAt(int index) const {
     return (index >= 0 && index < GetLength()) ? m_text[static_cast<size_t>(index)] : '\0';
 }
 
-void CString::SetAt(int index, char ch) {
-    if (index >= 0 && index < GetLength()) {
-        m_text[static_cast<size_t>(index)] = ch;
-    }
-}
-
 CString& CString::operator+=(const CString& other) {
     m_text += other.m_text;
     return *this;
@@ -132,10 +126,6 @@ CString CString::Right(int count) const {
     return Mid(GetLength() - count, count);
 }
 
-CString CString::SpanIncluding(const char* charSet) const {
-    return Left(static_cast<int>(std::strspn(GetString(), charSet ? charSet : "")));
-}
-
 CString CString::SpanExcluding(const char* charSet) const {
     return Left(static_cast<int>(std::strcspn(GetString(), charSet ? charSet : "")));
 }
@@ -196,11 +186,6 @@ CString& CString::MakeLower() {
     for (char& c : m_text) {
         c = static_cast<char>(LowerByte(c));
     }
-    return *this;
-}
-
-CString& CString::MakeReverse() {
-    std::reverse(m_text.begin(), m_text.end());
     return *this;
 }
 
@@ -274,17 +259,6 @@ int CString::Remove(char ch) {
     return static_cast<int>(removed);
 }
 
-int CString::Insert(int index, char ch) {
-    const char text[2] = {ch, '\0'};
-    return Insert(index, text);
-}
-
-int CString::Insert(int index, const char* text) {
-    index = Clamp(index, 0, GetLength());
-    m_text.insert(static_cast<size_t>(index), text ? text : "");
-    return GetLength();
-}
-
 int CString::Delete(int index, int count) {
     index = std::max(index, 0);
     if (count > 0 && index < GetLength()) {
@@ -346,11 +320,6 @@ char* CString::GetBuffer(int minLength) {
     if (minLength > GetLength()) {
         m_text.resize(static_cast<size_t>(minLength), '\0');
     }
-    return m_text.data();
-}
-
-char* CString::GetBufferSetLength(int length) {
-    m_text.resize(static_cast<size_t>(std::max(length, 0)), '\0');
     return m_text.data();
 }
 

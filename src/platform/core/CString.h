@@ -33,7 +33,6 @@ public:
     const char* GetString() const { return m_text.c_str(); }
     operator const char*() const { return m_text.c_str(); }
     char GetAt(int index) const;
-    void SetAt(int index, char ch);
     char operator[](int index) const { return GetAt(index); }
     const std::string& str() const { return m_text; }
 
@@ -66,7 +65,6 @@ public:
     CString Mid(int first, int count) const;
     CString Left(int count) const;
     CString Right(int count) const;
-    CString SpanIncluding(const char* charSet) const;
     CString SpanExcluding(const char* charSet) const;
     CString Tokenize(const char* tokens, int& start) const;
 
@@ -79,7 +77,6 @@ public:
     // Change in place
     CString& MakeUpper();
     CString& MakeLower();
-    CString& MakeReverse();
     CString& Trim();
     CString& Trim(char target);
     CString& Trim(const char* targets);
@@ -92,8 +89,6 @@ public:
     int Replace(char oldCh, char newCh);
     int Replace(const char* oldText, const char* newText);
     int Remove(char ch);
-    int Insert(int index, char ch);
-    int Insert(int index, const char* text);
     int Delete(int index, int count = 1);
 
     // printf-style formatting
@@ -105,7 +100,6 @@ public:
     // Direct buffer access: write into the buffer, then ReleaseBuffer.
     char* GetBuffer();
     char* GetBuffer(int minLength);
-    char* GetBufferSetLength(int length);
     void ReleaseBuffer(int newLength = -1);
 
     // The library's string table

@@ -164,9 +164,6 @@ void AfxThrowMemoryException() {
 void AfxThrowResourceException() {
     throw new CResourceException;
 }
-void AfxThrowUserException() {
-    throw new CUserException;
-}
 
 void AfxThrowFileException(int cause, LONG osError, LPCTSTR fileName) {
     throw new CFileException(cause, osError, fileName);

@@ -1,14 +1,14 @@
 #include "platform/gdi/CDC.h"
 
-#include "platform/gdi/PixelImage_p.h"
+#include "platform/core/FailureInjection.h"
+#include "platform/gdi/GuiApplication_p.h"
 #include "platform/gdi/Surface_p.h"
-
-#include <QFontMetricsF>
 
 #include <algorithm>
 #include <atomic>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 using seisplot::DrawCall;
 using seisplot::DrawOp;
@@ -91,7 +91,7 @@ const std::shared_ptr<seisplot::Surface>& CDC::GetSurface() const {
 }
 
 BOOL CDC::CreateCompatibleDC(CDC* dc) {
-    if (HasSurface()) {
+    if (HasSurface() || seisplot::ShouldFail(seisplot::FailurePoint::MemoryContext)) {
         return FALSE;
     }
     *m_state = State{};
@@ -157,14 +157,8 @@ int CDC::GetMapMode() const {
 CPoint CDC::SetWindowOrg(int x, int y) {
     return std::exchange(m_state->windowOrg, CPoint(x, y));
 }
-CPoint CDC::GetWindowOrg() const {
-    return m_state->windowOrg;
-}
 CPoint CDC::SetViewportOrg(int x, int y) {
     return std::exchange(m_state->viewportOrg, CPoint(x, y));
-}
-CPoint CDC::GetViewportOrg() const {
-    return m_state->viewportOrg;
 }
 
 CPoint CDC::ToDevice(int x, int y) const {
@@ -344,9 +338,6 @@ CBrush* CDC::GetCurrentBrush() const {
 CFont* CDC::GetCurrentFont() const {
     return m_state->font;
 }
-CBitmap* CDC::GetCurrentBitmap() const {
-    return m_state->bitmap;
-}
 
 int CDC::SetROP2(int mode) {
     return std::exchange(m_state->rop2, mode);
@@ -446,16 +437,6 @@ BOOL CDC::LineTo(int x, int y) {
     return HasSurface();
 }
 
-BOOL CDC::Polyline(const POINT* points, int count) {
-    if (points == nullptr || count < 2) {
-        return FALSE;
-    }
-    for (int i = 1; i < count; ++i) {
-        Submit(Resolve(DrawOp::Line, {points[i - 1], points[i]}));
-    }
-    return HasSurface();
-}
-
 BOOL CDC::Polygon(const POINT* points, int count) {
     if (points == nullptr || count < 2) {
         return FALSE;
@@ -521,10 +502,9 @@ BOOL CDC::TextOut(int x, int y, LPCTSTR text, int count) {
     const double escapement = s.fontAttributes.lfEscapement / 10.0;
     call.textAngle = s.ScaleY() < 0 ? -escapement : escapement;
     Submit(call);
-    if (updateCp) {
-        const QFont font = seisplot::QtFontOf(s.fontAttributes, call.fontPixelHeight);
+    if (updateCp && HasSurface()) {
         const double advance =
-            QFontMetricsF(font).horizontalAdvance(seisplot::QtTextOf(s.fontAttributes, call.text));
+            s.surface->TextAdvance(s.fontAttributes, call.fontPixelHeight, call.text);
         const double a = call.textAngle * std::numbers::pi / 180.0;
         m_state->position.x += RoundToLong(advance * std::cos(a) / s.ScaleX());
         m_state->position.y += RoundToLong(-advance * std::sin(a) / s.ScaleY());
@@ -533,32 +513,35 @@ BOOL CDC::TextOut(int x, int y, LPCTSTR text, int count) {
 }
 
 CSize CDC::GetTextExtent(LPCTSTR text, int count) const {
+    if (!HasSurface() || text == nullptr) {
+        return CSize(0, 0);
+    }
     const State& s = *m_state;
-    const QFont font = seisplot::QtFontOf(s.fontAttributes, FontPixels(s.fontAttributes));
-    const QFontMetricsF metrics(font);
-    const double width = metrics.horizontalAdvance(
-        seisplot::QtTextOf(s.fontAttributes, CString(text, std::max(0, count))));
-    const double height = metrics.ascent() + metrics.descent();
+    const int pixels = FontPixels(s.fontAttributes);
+    const double width =
+        s.surface->TextAdvance(s.fontAttributes, pixels, CString(text, std::max(0, count)));
+    const seisplot::FontMeasure metrics = s.surface->MeasureFont(s.fontAttributes, pixels);
+    const double height = metrics.ascent + metrics.descent;
     return CSize(RoundToLong(width / std::abs(s.ScaleX())),
                  RoundToLong(height / std::abs(s.ScaleY())));
 }
 
 BOOL CDC::GetTextMetrics(TEXTMETRICA* tm) const {
-    if (tm == nullptr) {
+    if (tm == nullptr || !HasSurface()) {
         return FALSE;
     }
     const State& s = *m_state;
-    const QFont font = seisplot::QtFontOf(s.fontAttributes, FontPixels(s.fontAttributes));
-    const QFontMetricsF metrics(font);
+    const seisplot::FontMeasure metrics =
+        s.surface->MeasureFont(s.fontAttributes, FontPixels(s.fontAttributes));
     const double sy = std::abs(s.ScaleY());
     const double sx = std::abs(s.ScaleX());
-    tm->tmAscent = RoundToLong(metrics.ascent() / sy);
-    tm->tmDescent = RoundToLong(metrics.descent() / sy);
+    tm->tmAscent = RoundToLong(metrics.ascent / sy);
+    tm->tmDescent = RoundToLong(metrics.descent / sy);
     tm->tmHeight = tm->tmAscent + tm->tmDescent;
-    tm->tmInternalLeading = std::max<LONG>(0, tm->tmHeight - RoundToLong(font.pixelSize() / sy));
-    tm->tmExternalLeading = RoundToLong(metrics.leading() / sy);
-    tm->tmAveCharWidth = RoundToLong(metrics.averageCharWidth() / sx);
-    tm->tmMaxCharWidth = RoundToLong(metrics.maxWidth() / sx);
+    tm->tmInternalLeading = std::max<LONG>(0, tm->tmHeight - RoundToLong(metrics.emPixels / sy));
+    tm->tmExternalLeading = RoundToLong(metrics.leading / sy);
+    tm->tmAveCharWidth = RoundToLong(metrics.averageWidth / sx);
+    tm->tmMaxCharWidth = RoundToLong(metrics.maxWidth / sx);
     tm->tmWeight = s.fontAttributes.lfWeight == 0 ? FW_NORMAL : s.fontAttributes.lfWeight;
     tm->tmItalic = s.fontAttributes.lfItalic;
     tm->tmUnderlined = s.fontAttributes.lfUnderline;

@@ -29,8 +29,6 @@ public:
     // at first a 1-by-1 monochrome one.
     BOOL CreateCompatibleDC(CDC* dc);
     BOOL DeleteDC();
-    HDC GetSafeHdc() { return HasSurface() ? this : nullptr; }
-    static CDC* FromHandle(HDC dc) { return dc; }
 
     // Non-zero on a printer: the framework's own flag, set by printing contexts.
     BOOL IsPrinting() const { return m_bPrinting; }
@@ -43,10 +41,8 @@ public:
     int GetMapMode() const;
     CPoint SetWindowOrg(int x, int y);
     CPoint SetWindowOrg(POINT point) { return SetWindowOrg(point.x, point.y); }
-    CPoint GetWindowOrg() const;
     CPoint SetViewportOrg(int x, int y);
     CPoint SetViewportOrg(POINT point) { return SetViewportOrg(point.x, point.y); }
-    CPoint GetViewportOrg() const;
     void LPtoDP(LPPOINT points, int count = 1) const;
     void LPtoDP(LPRECT rect) const;
     void LPtoDP(LPSIZE size) const;
@@ -72,7 +68,6 @@ public:
     CPen* GetCurrentPen() const;
     CBrush* GetCurrentBrush() const;
     CFont* GetCurrentFont() const;
-    CBitmap* GetCurrentBitmap() const;
 
     // Attributes: each returns the previous value
     int SetROP2(int mode);
@@ -92,7 +87,6 @@ public:
     CPoint GetCurrentPosition() const;
     BOOL LineTo(int x, int y); // the end pixel is not drawn
     BOOL LineTo(POINT point) { return LineTo(point.x, point.y); }
-    BOOL Polyline(const POINT* points, int count);
     BOOL Polygon(const POINT* points, int count);
     BOOL Rectangle(int x1, int y1, int x2, int y2);
     BOOL Rectangle(LPCRECT rect) {

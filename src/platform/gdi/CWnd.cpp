@@ -1,7 +1,5 @@
 #include "platform/gdi/CWnd.h"
 
-#include "platform/gdi/FontEngine_p.h"
-#include "platform/gdi/PixelImage_p.h"
 #include "platform/gdi/Surface_p.h"
 
 #include <algorithm>
@@ -14,11 +12,6 @@ public:
         : CDC(seisplot::MakeImageSurface(std::move(picture), 96)) {}
 };
 
-bool SaveImage(const QImage& image, const CString& path, const char* format) {
-    seisplot::EnsureGuiApplication();
-    return image.save(QString::fromLocal8Bit(path.GetString()), format);
-}
-
 } // namespace
 
 CWnd::CWnd() {
@@ -27,7 +20,8 @@ CWnd::CWnd() {
 CWnd::~CWnd() = default;
 
 void CWnd::GetClientRect(LPRECT rect) const {
-    *rect = CRect(0, 0, m_picture->image.width(), m_picture->image.height());
+    const CSize size = seisplot::PixelSize(*m_picture);
+    *rect = CRect(0, 0, size.cx, size.cy);
 }
 
 CDC* CWnd::GetDC() {
@@ -42,24 +36,99 @@ int CWnd::ReleaseDC(CDC* dc) {
         return 0;
     }
     m_contexts.erase(it);
+    if (m_view != nullptr) {
+        m_view->PictureChanged();
+    }
     return 1;
 }
 
+void CWnd::Invalidate(BOOL) {
+    if (m_view != nullptr) {
+        m_view->Invalidated();
+    }
+}
+
 void CWnd::SetClientSize(int width, int height) {
-    auto picture = std::make_shared<seisplot::PixelImage>();
-    picture->image = QImage(std::max(1, width), std::max(1, height), QImage::Format_RGB32);
-    picture->image.fill(Qt::white);
-    m_picture = std::move(picture);
+    m_picture = seisplot::MakePixels(std::max(1, width), std::max(1, height), false, 0xFFFFFF);
+}
+
+seisplot::PictureBits CWnd::Bits() const {
+    return seisplot::BitsOf(*m_picture);
 }
 
 bool CWnd::SavePicture(const CString& path, const char* format) const {
-    return SaveImage(m_picture->image, path, format);
+    return seisplot::SavePixels(*m_picture, path, format);
+}
+
+void CWnd::SetWindowText(LPCTSTR text) {
+    const CString value(text);
+    if (m_view != nullptr) {
+        m_view->SetText(value);
+    } else {
+        m_text = value;
+    }
+}
+
+void CWnd::GetWindowText(CString& text) const {
+    text = m_view != nullptr ? m_view->Text() : m_text;
+}
+
+int CWnd::GetWindowTextLength() const {
+    CString text;
+    GetWindowText(text);
+    return text.GetLength();
+}
+
+BOOL CWnd::EnableWindow(BOOL enable) {
+    const bool wasDisabled = !IsWindowEnabled();
+    if (m_view != nullptr) {
+        m_view->SetEnabled(enable != FALSE);
+    } else {
+        m_enabled = enable != FALSE;
+    }
+    return wasDisabled ? TRUE : FALSE;
+}
+
+BOOL CWnd::IsWindowEnabled() const {
+    return (m_view != nullptr ? m_view->Enabled() : m_enabled) ? TRUE : FALSE;
+}
+
+BOOL CWnd::ShowWindow(int command) {
+    const BOOL wasVisible = IsWindowVisible();
+    if (m_view != nullptr) {
+        m_view->SetVisible(command != SW_HIDE);
+    } else {
+        m_visible = command != SW_HIDE;
+    }
+    return wasVisible;
+}
+
+BOOL CWnd::IsWindowVisible() const {
+    return (m_view != nullptr ? m_view->Visible() : m_visible) ? TRUE : FALSE;
+}
+
+void CWnd::SetFocus() {
+    if (m_view != nullptr) {
+        m_view->Focus();
+    }
+}
+
+int CButton::GetCheck() const {
+    return GetView() != nullptr ? GetView()->Check() : m_check;
+}
+
+void CButton::SetCheck(int state) {
+    if (GetView() != nullptr) {
+        GetView()->SetCheck(state);
+    } else {
+        m_check = state;
+    }
 }
 
 namespace seisplot {
 
 bool SaveBitmap(const CBitmap& bitmap, const CString& path, const char* format) {
-    return bitmap.Pixels() != nullptr && SaveImage(bitmap.Pixels()->image, path, format);
+    return bitmap.Pixels() != nullptr && SavePixels(*bitmap.Pixels(), path, format);
 }
 
 } // namespace seisplot

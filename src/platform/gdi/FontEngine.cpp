@@ -3,50 +3,19 @@
 
 #include "platform/gdi/FontEngine_p.h"
 
+#include "platform/gdi/GuiApplication_p.h"
 #include "platform/gdi/Surface_p.h"
 
 #include <QFontDatabase>
 #include <QFontMetricsF>
-#include <QGuiApplication>
-#include <QScreen>
 
+#include <algorithm>
 #include <array>
-#include <cerrno>
+#include <cctype>
 #include <cmath>
-#include <cstdlib>
 #include <cstring>
-#include <string>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace seisplot {
-
-void EnsureGuiApplication() {
-    if (QCoreApplication::instance() != nullptr) {
-        return;
-    }
-    // Without a display the offscreen platform still gives fonts and painting.
-    if (std::getenv("QT_QPA_PLATFORM") == nullptr && std::getenv("DISPLAY") == nullptr &&
-        std::getenv("WAYLAND_DISPLAY") == nullptr) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    // Qt wants a private runtime folder and complains on every start without one.
-    if (std::getenv("XDG_RUNTIME_DIR") == nullptr) {
-        const std::string runtime = "/tmp/seisplot-runtime-" + std::to_string(::getuid());
-        struct stat info {};
-        const bool made = ::mkdir(runtime.c_str(), 0700) == 0;
-        // Only a folder of our own that nobody else may enter will do.
-        if ((made || errno == EEXIST) && ::lstat(runtime.c_str(), &info) == 0 &&
-            S_ISDIR(info.st_mode) && info.st_uid == ::getuid() && (info.st_mode & 0777) == 0700) {
-            ::setenv("XDG_RUNTIME_DIR", runtime.c_str(), 0);
-        }
-    }
-    static int argc = 1;
-    static char name[] = "seisplot";
-    static char* argv[] = {name, nullptr};
-    static QGuiApplication* app = new QGuiApplication(argc, argv);
-    (void)app;
-}
 
 namespace {
 
@@ -60,7 +29,8 @@ bool SameFace(const char* a, const char* b) {
     return *a == *b;
 }
 
-// The installed face that stands in for a face of the other platform.
+} // namespace
+
 QString InstalledFace(const char* face) {
     struct Substitute {
         const char* face;
@@ -90,16 +60,6 @@ QString InstalledFace(const char* face) {
         return name;
     }
     return QStringLiteral("DejaVu Sans");
-}
-
-} // namespace
-
-int ScreenDpi() {
-    EnsureGuiApplication();
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    const int dpi =
-        screen != nullptr ? static_cast<int>(std::lround(screen->logicalDotsPerInchX())) : 0;
-    return dpi > 0 ? dpi : 96;
 }
 
 bool IsSymbolFace(const LOGFONTA& font) {
@@ -269,6 +229,17 @@ QString SymbolFaceText(const CString& text) {
 QString QtTextOf(const LOGFONTA& font, const CString& text) {
     return IsSymbolFace(font) ? SymbolFaceText(text)
                               : QString::fromLatin1(text.GetString(), text.GetLength());
+}
+
+FontMeasure Surface::MeasureFont(const LOGFONTA& font, int pixelHeight) const {
+    const QFont qfont = QtFontOf(font, pixelHeight);
+    const QFontMetricsF metrics(qfont);
+    return {metrics.ascent(),           metrics.descent(),  metrics.leading(),
+            metrics.averageCharWidth(), metrics.maxWidth(), qfont.pixelSize()};
+}
+
+double Surface::TextAdvance(const LOGFONTA& font, int pixelHeight, const CString& text) const {
+    return QFontMetricsF(QtFontOf(font, pixelHeight)).horizontalAdvance(QtTextOf(font, text));
 }
 
 } // namespace seisplot

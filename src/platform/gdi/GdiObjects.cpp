@@ -2,7 +2,7 @@
 
 #include "platform/core/Exceptions.h"
 #include "platform/gdi/CDC.h"
-#include "platform/gdi/PixelImage_p.h"
+#include "platform/gdi/Surface_p.h"
 
 #include <cstring>
 
@@ -114,7 +114,7 @@ BOOL CBrush::CreatePatternBrush(CBitmap* bitmap) {
         return FALSE;
     }
     // The brush keeps its own copy: the bitmap may change or go afterwards.
-    m_attributes = {BS_PATTERN, 0, 0, std::make_shared<seisplot::PixelImage>(*bitmap->Pixels())};
+    m_attributes = {BS_PATTERN, 0, 0, seisplot::CopyPixels(*bitmap->Pixels())};
     return TRUE;
 }
 
@@ -150,14 +150,6 @@ BOOL CFont::CreateFontIndirect(const LOGFONTA* logFont) {
     return TRUE;
 }
 
-int CFont::GetLogFont(LOGFONTA* logFont) const {
-    if (logFont == nullptr || GetSafeHandle() == nullptr) {
-        return 0;
-    }
-    *logFont = m_attributes;
-    return static_cast<int>(sizeof(LOGFONTA));
-}
-
 CFont* CFont::FromStock(int index) {
     static CFont system;
     static const bool made = [] {
@@ -179,27 +171,9 @@ BOOL CBitmap::CreateBitmap(int width, int height, UINT planes, UINT bitsPerPixel
         (bitsPerPixel != 1 && bitsPerPixel != 24 && bitsPerPixel != 32) || !Create()) {
         return FALSE;
     }
-    auto pixels = std::make_shared<seisplot::PixelImage>();
-    pixels->image = QImage(width, height, QImage::Format_RGB32);
-    pixels->image.fill(Qt::black);
-    pixels->monochrome = bitsPerPixel == 1;
+    auto pixels = seisplot::MakePixels(width, height, bitsPerPixel == 1, 0x000000);
     if (bits != nullptr) {
-        const auto* bytes = static_cast<const unsigned char*>(bits);
-        const int rowBytes = (width * static_cast<int>(bitsPerPixel) + 15) / 16 * 2;
-        for (int y = 0; y < height; ++y) {
-            const unsigned char* row = bytes + static_cast<std::ptrdiff_t>(y) * rowBytes;
-            for (int x = 0; x < width; ++x) {
-                QRgb c;
-                if (bitsPerPixel == 1) {
-                    c = (row[x / 8] >> (7 - x % 8)) & 1 ? qRgb(255, 255, 255) : qRgb(0, 0, 0);
-                } else {
-                    const int step = static_cast<int>(bitsPerPixel) / 8;
-                    const unsigned char* p = row + x * step; // stored blue, green, red
-                    c = qRgb(p[2], p[1], p[0]);
-                }
-                pixels->image.setPixel(x, y, c);
-            }
-        }
+        seisplot::LoadPixelRows(*pixels, bits, static_cast<int>(bitsPerPixel));
     }
     m_pixels = std::move(pixels);
     return TRUE;
@@ -214,10 +188,11 @@ int CBitmap::GetBitmap(BITMAP* info) const {
     if (info == nullptr || m_pixels == nullptr) {
         return 0;
     }
-    info->bmWidth = m_pixels->image.width();
-    info->bmHeight = m_pixels->image.height();
+    const CSize size = seisplot::PixelSize(*m_pixels);
+    info->bmWidth = size.cx;
+    info->bmHeight = size.cy;
     info->bmPlanes = 1;
-    info->bmBitsPixel = m_pixels->monochrome ? 1 : 32;
+    info->bmBitsPixel = seisplot::IsMonochrome(*m_pixels) ? 1 : 32;
     return static_cast<int>(sizeof(BITMAP));
 }
 
@@ -225,11 +200,7 @@ CBitmap* CBitmap::DefaultMemoryBitmap() {
     static CBitmap bitmap;
     static const bool made = [] {
         // Made directly: a stock object is neither counted nor subject to creation failures.
-        auto pixels = std::make_shared<seisplot::PixelImage>();
-        pixels->image = QImage(1, 1, QImage::Format_RGB32);
-        pixels->image.fill(Qt::black);
-        pixels->monochrome = true;
-        bitmap.m_pixels = std::move(pixels);
+        bitmap.m_pixels = seisplot::MakePixels(1, 1, true, 0x000000);
         bitmap.MarkStock();
         return true;
     }();
@@ -245,8 +216,4 @@ BOOL CRgn::CreateRectRgn(int left, int top, int right, int bottom) {
     r.NormalizeRect();
     m_rects = {r};
     return TRUE;
-}
-
-BOOL CRgn::CreateRectRgnIndirect(const RECT* rect) {
-    return rect != nullptr && CreateRectRgn(rect->left, rect->top, rect->right, rect->bottom);
 }

@@ -98,7 +98,6 @@ class CFont : public CGdiObject {
 public:
     CFont() : CGdiObject(Kind::Font) {}
     BOOL CreateFontIndirect(const LOGFONTA* logFont);
-    int GetLogFont(LOGFONTA* logFont) const;
     const LOGFONTA& Attributes() const { return m_attributes; }
     static CFont* FromStock(int index);
 
@@ -135,7 +134,6 @@ public:
     CRgn() : CGdiObject(Kind::Region) {}
     // Coordinates are device units.
     BOOL CreateRectRgn(int left, int top, int right, int bottom);
-    BOOL CreateRectRgnIndirect(const RECT* rect);
     const std::vector<CRect>& Rects() const { return m_rects; }
 
 private:

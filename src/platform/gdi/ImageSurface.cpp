@@ -2,7 +2,7 @@
 // without their end pixel, as the framework draws them.
 
 #include "platform/gdi/CDC.h"
-#include "platform/gdi/FontEngine_p.h"
+#include "platform/gdi/GuiApplication_p.h"
 #include "platform/gdi/Painting_p.h"
 #include "platform/gdi/PixelImage_p.h"
 #include "platform/gdi/Surface_p.h"
@@ -204,6 +204,57 @@ private:
 
 std::shared_ptr<Surface> MakeImageSurface(std::shared_ptr<PixelImage> pixels, int dpi) {
     return std::make_shared<ImageSurface>(std::move(pixels), dpi);
+}
+
+std::shared_ptr<PixelImage> MakePixels(int width, int height, bool monochrome, COLORREF fill) {
+    EnsureGuiApplication();
+    auto pixels = std::make_shared<PixelImage>();
+    pixels->image = QImage(width, height, QImage::Format_RGB32);
+    pixels->monochrome = monochrome;
+    const QColor colour = DeviceColours{monochrome}(fill);
+    pixels->image.fill(colour);
+    return pixels;
+}
+
+void LoadPixelRows(PixelImage& pixels, const void* rows, int bitsPerPixel) {
+    QImage& image = pixels.image;
+    const auto* bytes = static_cast<const unsigned char*>(rows);
+    const int rowBytes = (image.width() * bitsPerPixel + 15) / 16 * 2;
+    for (int y = 0; y < image.height(); ++y) {
+        const unsigned char* row = bytes + static_cast<std::ptrdiff_t>(y) * rowBytes;
+        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            if (bitsPerPixel == 1) {
+                line[x] = (row[x / 8] >> (7 - x % 8)) & 1 ? qRgb(255, 255, 255) : qRgb(0, 0, 0);
+            } else {
+                const unsigned char* p = row + x * (bitsPerPixel / 8); // blue, green, red
+                line[x] = qRgb(p[2], p[1], p[0]);
+            }
+        }
+    }
+}
+
+std::shared_ptr<PixelImage> CopyPixels(const PixelImage& pixels) {
+    return std::make_shared<PixelImage>(pixels);
+}
+
+CSize PixelSize(const PixelImage& pixels) {
+    return CSize(pixels.image.width(), pixels.image.height());
+}
+
+PictureBits BitsOf(const PixelImage& pixels) {
+    const QImage& image = pixels.image;
+    return {image.constBits(), image.width(), image.height(),
+            static_cast<int>(image.bytesPerLine())};
+}
+
+bool IsMonochrome(const PixelImage& pixels) {
+    return pixels.monochrome;
+}
+
+bool SavePixels(const PixelImage& pixels, const CString& path, const char* format) {
+    EnsureGuiApplication();
+    return pixels.image.save(QString::fromLocal8Bit(path.GetString()), format);
 }
 
 } // namespace seisplot

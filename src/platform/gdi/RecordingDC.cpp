@@ -2,6 +2,8 @@
 
 #include "platform/gdi/Surface_p.h"
 
+#include <cstdlib>
+
 namespace seisplot {
 namespace {
 
@@ -13,6 +15,20 @@ public:
                 m_device.numColors, m_device.technology, m_device.printing};
     }
     void Draw(const DrawCall& call, const DeviceClip&) override { calls.push_back(call); }
+    FontMeasure MeasureFont(const LOGFONTA& font, int pixelHeight) const override {
+        if (m_device.characterPixels == 0) {
+            return Surface::MeasureFont(font, pixelHeight);
+        }
+        const double h = std::abs(pixelHeight);
+        const double c = m_device.characterPixels;
+        return {0.8 * h, 0.2 * h, 0.0, c, c, std::abs(pixelHeight)};
+    }
+    double TextAdvance(const LOGFONTA& font, int pixelHeight, const CString& text) const override {
+        if (m_device.characterPixels == 0) {
+            return Surface::TextAdvance(font, pixelHeight, text);
+        }
+        return static_cast<double>(m_device.characterPixels) * text.GetLength();
+    }
     std::vector<DrawCall> calls;
 
 private:

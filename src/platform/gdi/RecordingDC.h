@@ -16,6 +16,9 @@ struct RecordingDevice {
     int numColors = -1; // -1 colour, 2 monochrome
     int technology = DT_RASDISPLAY;
     bool printing = false;
+    // A device with a fixed-pitch font of its own: every character advances this many pixels,
+    // ascent and descent are 0.8 and 0.2 of the font's height (0: Qt's fonts, as painted).
+    int characterPixels = 0;
 };
 
 class RecordingDC : public CDC {

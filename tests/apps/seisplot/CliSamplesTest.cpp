@@ -18,9 +18,7 @@ namespace fs = std::filesystem;
 const fs::path kSamples = SEISPLOT_SAMPLES_DIR;
 
 TEST(CliSamples, DemoWritesEveryResult) {
-    if (!fs::exists(kSamples / "structure.modes")) {
-        GTEST_SKIP() << "no sample records in " << kSamples;
-    }
+    ASSERT_TRUE(fs::exists(kSamples / "structure.modes")) << "sample records missing: " << kSamples;
     TempDir dir;
     const std::string out = dir.Path("demo");
     const CliResult r = seisplot::test::RunCli({"demo", out}, dir.Path(""));

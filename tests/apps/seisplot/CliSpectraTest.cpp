@@ -108,10 +108,10 @@ TEST(CliEnvelope, RunsAreTheLibraryRunAndGoToTheArchive) {
                     "--tmax", "1", "--dt", "0.25", "--spectra", spectra, "--json"});
     AccelerogramColl records = ReadSet(event.set);
     EnvelopeCriteria criteria;
-    criteria.PeriodSource = 1;
+    criteria.PeriodSource = EnvelopeCriteria::RegularGrid;
     criteria.MaxPeriod = 1.0;
     criteria.PeriodStep = 0.25;
-    criteria.SignalUse = 1;
+    criteria.SignalUse = EnvelopeCriteria::ComposedPairs;
     criteria.Direction = 30.0;
     SpectrumColl expected;
     PCurve track;
@@ -184,14 +184,16 @@ TEST(CliEnvelope, CtrlCCancelsWithoutWriting) {
     const std::string spectra = dir.Path("spectra.spc");
     // 30001 periods of six 100 s records on one thread: many seconds of work, each ordinate a
     // small part of it.
+    // The interrupt comes once the run shows its progress bar on the terminal.
     seisplot::test::CliProcess run(
         {"envelope", set, "--tmax", "15", "--dt", "0.0005", "--threads", "1", "--spectra", spectra},
-        dir.Path(""));
-    ::usleep(1000 * 1000);
+        dir.Path(""), seisplot::test::CliProcess::ErrorStream::Terminal);
+    ASSERT_TRUE(run.WaitForTerminal("envelope ["));
     ::kill(run.Pid(), SIGINT);
     const CliResult r = run.Wait();
     EXPECT_EQ(r.status, 1);
-    EXPECT_EQ(r.err, "seisplot: envelope cancelled; nothing written\n");
+    // The terminal ends lines with a carriage return and a line feed.
+    EXPECT_THAT(r.err, HasSubstr("seisplot: envelope cancelled; nothing written\r\n"));
     EXPECT_FALSE(std::filesystem::exists(spectra));
 }
 

@@ -253,6 +253,34 @@ TEST(DeviceContext, TextAlignmentCurrentPositionAndMetrics) {
     EXPECT_EQ(dc.Calls().size(), 1u);
 }
 
+TEST(DeviceContext, TextIsMeasuredByTheSurfaceThatDrawsIt) {
+    // A device whose own font advances 10 pixels a character, at 254 dpi: 1 pixel is 10
+    // hundredths of a millimetre.
+    seisplot::RecordingDevice device;
+    device.dpi = 254;
+    device.characterPixels = 10;
+    seisplot::RecordingDC dc(device);
+    dc.SetMapMode(MM_HIMETRIC);
+    LOGFONTA lf;
+    lf.lfHeight = -500; // 50 pixels
+    CFont font;
+    font.CreateFontIndirect(&lf);
+    dc.SelectObject(&font);
+    EXPECT_EQ(dc.GetTextExtent("abcd"), CSize(400, 500));
+    TEXTMETRICA tm;
+    ASSERT_TRUE(dc.GetTextMetrics(&tm));
+    EXPECT_EQ((std::vector<LONG>{tm.tmAscent, tm.tmDescent, tm.tmAveCharWidth}),
+              (std::vector<LONG>{400, 100, 100}));
+    dc.SetTextAlign(TA_UPDATECP);
+    dc.MoveTo(1000, 2000);
+    dc.TextOut(0, 0, "abc");
+    EXPECT_EQ(dc.GetCurrentPosition(), CPoint(1300, 2000));
+    // A context without a surface measures nothing.
+    CDC none;
+    EXPECT_EQ(none.GetTextExtent("abcd"), CSize(0, 0));
+    EXPECT_FALSE(none.GetTextMetrics(&tm));
+}
+
 TEST(DeviceContext, SelectionReturnsPreviousAndObjectsAreCounted) {
     const int live = seisplot::LiveGdiObjects();
     {
@@ -287,7 +315,39 @@ TEST(DeviceContext, WindowsAndDocuments) {
     CDC* dc = button.GetDC();
     EXPECT_EQ(dc->GetPixel(5, 5), kWhite);
     dc->SetPixel(5, 5, kRed);
+    // The view that shows the picture hears of every context given back and invalidation.
+    struct View : seisplot::WindowView {
+        int changes = 0;
+        CString text;
+        bool enabled = true;
+        void PictureChanged() override { ++changes; }
+        CString Text() const override { return text; }
+        void SetText(const CString& t) override { text = t; }
+        bool Enabled() const override { return enabled; }
+        void SetEnabled(bool e) override { enabled = e; }
+        bool Visible() const override { return true; }
+        void SetVisible(bool) override {}
+        void Focus() override {}
+        int Check() const override { return BST_CHECKED; }
+        void SetCheck(int) override {}
+    } view;
+    button.SetView(&view);
     EXPECT_EQ(button.ReleaseDC(dc), 1);
+    EXPECT_EQ(button.ReleaseDC(dc), 0); // not ours any more: nothing to tell
+    button.Invalidate();
+    EXPECT_EQ(view.changes, 2);
+    // Text and state are the view's while it is attached, the window's own otherwise.
+    button.SetWindowText("shown");
+    EXPECT_EQ(view.text, "shown");
+    EXPECT_FALSE(button.EnableWindow(FALSE));
+    EXPECT_FALSE(view.enabled);
+    EXPECT_EQ(button.GetCheck(), BST_CHECKED);
+    button.SetView(nullptr);
+    CString text;
+    button.GetWindowText(text);
+    EXPECT_EQ(text, "");
+    EXPECT_TRUE(button.IsWindowEnabled());
+    EXPECT_EQ(button.GetCheck(), BST_UNCHECKED);
     EXPECT_EQ(button.GetDC()->GetPixel(5, 5), kRed); // the picture stays
 
     seisplot::test::TempDir dir;
