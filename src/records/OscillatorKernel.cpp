@@ -31,9 +31,11 @@ namespace {
 // GetY's in its last bit.
 class ForwardLookup {
 public:
-    explicit ForwardLookup(const FlatRecord& record)
+    ForwardLookup(const FlatRecord& record, int cursor)
         : m_t(record.t.data()), m_a(record.a.data()), m_slope(record.slope.data()),
-          m_last(static_cast<int>(record.t.size()) - 1) {}
+          m_last(static_cast<int>(record.t.size()) - 1), m_k(cursor) {}
+
+    int Cursor() const { return m_k; }
 
     double At(double x) {
         if (m_last <= 0 || x <= m_t[0]) {
@@ -56,32 +58,25 @@ private:
     const double* m_a;
     const double* m_slope;
     int m_last;
-    int m_k = 0;
+    int m_k;
 };
 
+// Steps done + 1 ... n, from the state after step `done` (0 or the end of an anchor).
 template <int Rule, bool Store>
-double Integrate(const FlatRecord& record, const OscillatorSteps& s, double* u) {
-    const double twoPi = 4.0 * std::asin(1.0);
-    const double omegaN = twoPi / s.T;
-    const double omegaD = omegaN * std::sqrt(1.0 - s.xi * s.xi);
-    const double F = s.h / Rule / omegaD / s.m;
-    const double E = std::exp(-s.xi * omegaN * s.h);
-    const double E2 = std::exp(-2.0 * s.xi * omegaN * s.h);
-    const double delta = omegaD * s.h;
-    const double cosDelta = std::cos(delta);
-    const double sinDelta = std::sin(delta);
-    const double fourE = 4.0 * E;
+double Integrate(const FlatRecord& record, const OscillatorSteps& s, double* u, int done,
+                 OscillatorState& state) {
+    const auto [twoPi, F, E, E2, fourE, delta, cosDelta, sinDelta] = MakeStepConstants(s);
 
-    ForwardLookup lookup(record);
-    double t = 0.0;
-    double theta = 0.0;
+    ForwardLookup lookup(record, state.cursor);
+    double t = state.t;
+    double theta = state.theta;
     double c = 1.0; // cos θ, sin θ of the current step
     double sn = 0.0;
-    double umax = 0.0;
-    // Steps i-1 and i-2; the ground acceleration at time 0 is taken as 0.
-    double a1 = 0.0, c1 = 1.0, s1 = 0.0, A1 = 0.0, B1 = 0.0;
-    double a2 = 0.0, c2 = 1.0, s2 = 0.0, A2 = 0.0, B2 = 0.0;
-    for (int first = 1; first <= s.n; first += kAnchorSteps) {
+    double umax = state.umax;
+    // Steps i-1 and i-2.
+    double a1 = state.a1, c1 = state.c1, s1 = state.s1, A1 = state.A1, B1 = state.B1;
+    double a2 = state.a2, c2 = state.c2, s2 = state.s2, A2 = state.A2, B2 = state.B2;
+    for (int first = done + 1; first <= s.n; first += kAnchorSteps) {
         const int last = std::min(s.n, first + kAnchorSteps - 1);
         for (int i = first; i <= last; ++i) {
             t += s.h;
@@ -116,16 +111,50 @@ double Integrate(const FlatRecord& record, const OscillatorSteps& s, double* u) 
             a1 = a, c1 = c, s1 = sn, A1 = A, B1 = B;
         }
     }
+    state = {t, theta, a1, c1, s1, A1, B1, a2, c2, s2, A2, B2, umax, lookup.Cursor()};
     return umax;
 }
 
 } // namespace
 
+StepConstants MakeStepConstants(const OscillatorSteps& s) {
+    StepConstants k{};
+    k.twoPi = 4.0 * std::asin(1.0);
+    const double omegaN = k.twoPi / s.T;
+    const double omegaD = omegaN * std::sqrt(1.0 - s.xi * s.xi);
+    k.F = s.h / s.rule / omegaD / s.m;
+    k.E = std::exp(-s.xi * omegaN * s.h);
+    k.E2 = std::exp(-2.0 * s.xi * omegaN * s.h);
+    k.fourE = 4.0 * k.E;
+    k.delta = omegaD * s.h;
+    k.cosDelta = std::cos(k.delta);
+    k.sinDelta = std::sin(k.delta);
+    return k;
+}
+
 double IntegrateResponse(const FlatRecord& record, const OscillatorSteps& s, double* u) {
+    OscillatorState state;
     if (s.rule == 2) {
-        return u ? Integrate<2, true>(record, s, u) : Integrate<2, false>(record, s, u);
+        return u ? Integrate<2, true>(record, s, u, 0, state)
+                 : Integrate<2, false>(record, s, u, 0, state);
     }
-    return u ? Integrate<3, true>(record, s, u) : Integrate<3, false>(record, s, u);
+    return u ? Integrate<3, true>(record, s, u, 0, state)
+             : Integrate<3, false>(record, s, u, 0, state);
+}
+
+double ContinueResponse(const FlatRecord& record, const OscillatorSteps& s, int done,
+                        OscillatorState& state) {
+    return s.rule == 2 ? Integrate<2, false>(record, s, nullptr, done, state)
+                       : Integrate<3, false>(record, s, nullptr, done, state);
+}
+
+void SampleRecord(const FlatRecord& record, double h, int n, double* a) {
+    ForwardLookup lookup(record, 0);
+    double t = 0.0;
+    for (int i = 0; i < n; ++i) {
+        t += h;
+        a[i] = lookup.At(t);
+    }
 }
 
 bool SpectrumSteps(const FlatRecord& record, double T, double& h, int& n) {

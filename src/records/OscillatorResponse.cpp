@@ -2,8 +2,10 @@
 
 #include "records/Accelerogram.h"
 #include "records/OscillatorKernel.h"
+#include "records/SpectrumPeaks.h"
 
 #include <cmath>
+#include <vector>
 
 using seisplot::FlatRecord;
 
@@ -36,19 +38,37 @@ bool Integrable(const FlatRecord& record, double dT) {
 
 enum class Ordinate { Acceleration, Displacement };
 
+// Periods integrated together: far more than a grid needs, and a bounded memory whatever the
+// grid.
+constexpr size_t kPeriodsAtOnce = 4096;
+
 // The spectrum curve over the grid; the first point is given by the caller.
 void FillSpectrum(const FlatRecord& record, double xi, double Tmax, double dT, Ordinate ordinate,
                   PCurve& out) {
-    for (double T = dT; T <= Tmax; T += dT) {
-        double umax = 0.0;
-        if (!PeakDisplacement(record, xi, T, umax)) {
-            break;
+    std::vector<seisplot::PeriodSteps> periods;
+    std::vector<double> peaks;
+    double T = dT;
+    bool integrable = true;
+    while (integrable && T <= Tmax) {
+        periods.clear();
+        for (; T <= Tmax && periods.size() < kPeriodsAtOnce; T += dT) {
+            seisplot::PeriodSteps p{T, 0.0, 0};
+            integrable = seisplot::SpectrumSteps(record, T, p.h, p.n);
+            if (!integrable) {
+                break;
+            }
+            periods.push_back(p);
         }
-        const double omegaN = kTwoPi / T;
-        const double m = 1.0;
-        out.AddPoint(T, ordinate == Ordinate::Acceleration
-                            ? std::fabs(omegaN * omegaN * m * umax) / m / Accelerogram::kG
-                            : std::fabs(umax));
+        peaks.resize(periods.size());
+        seisplot::SpectrumPeaks(record, xi, periods, peaks);
+        for (size_t j = 0; j < periods.size(); ++j) {
+            const double omegaN = kTwoPi / periods[j].T;
+            const double m = 1.0;
+            out.AddPoint(periods[j].T,
+                         ordinate == Ordinate::Acceleration
+                             ? std::fabs(omegaN * omegaN * m * peaks[j]) / m / Accelerogram::kG
+                             : std::fabs(peaks[j]));
+        }
     }
 }
 
@@ -83,8 +103,8 @@ int Accelerogram::GetAccSpectrum(double xi, double Tmax, double dT, PCurve& out)
         return 1;
     }
     out.Clear();
-    out.XUnit = 12;
-    out.YUnit = 9;
+    out.XUnit = seisplot::UnitKind::Time;
+    out.YUnit = seisplot::UnitKind::PureNumber;
     out.XName = "T";
     out.YName = "Se,a(T) [g]";
     out.AddPoint(0.0, GetPga());
@@ -115,8 +135,8 @@ int Accelerogram::GetDisSpectrum(double xi, double Tmax, double dT, PCurve& out)
         return 1;
     }
     out.Clear();
-    out.XUnit = 12;
-    out.YUnit = 1;
+    out.XUnit = seisplot::UnitKind::Time;
+    out.YUnit = seisplot::UnitKind::Length;
     out.XName = "T";
     out.YName = "Se,d(T)";
     out.AddPoint(0.0, 0.0);
@@ -130,8 +150,8 @@ int Accelerogram::GetADSpectrum(double xi, double Tmax, double dT, PMCurve& out)
     const bool computed = GetDisSpectrum(xi, Tmax, dT, displacement) == 0 &&
                           GetAccSpectrum(xi, Tmax, dT, acceleration) == 0;
     out.Clear();
-    out.XUnit = 1;
-    out.YUnit = 10;
+    out.XUnit = seisplot::UnitKind::Length;
+    out.YUnit = seisplot::UnitKind::Acceleration;
     out.XName = "Se,d";
     out.YName = "Se,a";
     if (computed) {

@@ -189,9 +189,10 @@ TEST(OscillatorTest, SpectraLimitsAndGrid) {
     ASSERT_EQ(dis.GetNP(), 3);
     ASSERT_EQ(ads.GetNP(), 3);
     EXPECT_EQ(dis[0].GetY(), 0.0);
-    // Unit kinds: time 12, acceleration in g 9, length 1, acceleration 10.
-    EXPECT_EQ((std::vector<int>{acc.XUnit, acc.YUnit, dis.XUnit, dis.YUnit, ads.XUnit, ads.YUnit}),
-              (std::vector<int>{12, 9, 12, 1, 1, 10}));
+    // Accelerations in g are pure numbers; the ADS form plots displacement against mm/s².
+    using enum seisplot::UnitKind;
+    EXPECT_EQ((std::vector{acc.XUnit, acc.YUnit, dis.XUnit, dis.YUnit, ads.XUnit, ads.YUnit}),
+              (std::vector{Time, PureNumber, Time, Length, Length, Acceleration}));
     EXPECT_EQ((std::vector<CString>{acc.XName, acc.YName, dis.YName, ads.XName}),
               (std::vector<CString>{"T", "Se,a(T) [g]", "Se,d(T)", "Se,d"}));
     EXPECT_EQ(ads[2].GetX(), dis[2].GetY());
