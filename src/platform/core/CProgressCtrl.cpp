@@ -6,7 +6,7 @@ void CProgressCtrl::SetRange32(int lower, int upper) {
     m_lower = lower;
     m_upper = upper;
     m_position = std::clamp(m_position, std::min(lower, upper), std::max(lower, upper));
-    Changed();
+    Notify();
 }
 
 int CProgressCtrl::SetStep(int step) {
@@ -18,7 +18,7 @@ int CProgressCtrl::SetStep(int step) {
 int CProgressCtrl::SetPos(int position) {
     const int previous = m_position;
     m_position = std::clamp(position, std::min(m_lower, m_upper), std::max(m_lower, m_upper));
-    Changed();
+    Notify();
     return previous;
 }
 
@@ -29,6 +29,6 @@ int CProgressCtrl::StepIt() {
         next = m_lower + (next - std::max(m_lower, m_upper));
     }
     m_position = std::clamp(next, std::min(m_lower, m_upper), std::max(m_lower, m_upper));
-    Changed();
+    Notify();
     return previous;
 }

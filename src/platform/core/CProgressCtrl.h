@@ -1,9 +1,21 @@
 #pragma once
 // CProgressCtrl: the framework's progress bar, reduced to its state. What shows the state
-// (a Qt progress bar, a bar on the terminal, a test's record) derives from it and hears of
-// every change through Changed().
+// hears of every change: a class derived from it through Changed() (a bar on the terminal, a
+// test's record), a progress bar of a dialog through the view attached to it.
 
 #include "platform/core/Types.h"
+
+class CProgressCtrl;
+
+namespace seisplot {
+// A progress bar on screen that shows a CProgressCtrl, told of every change of range or
+// position.
+class ProgressView {
+public:
+    virtual ~ProgressView() = default;
+    virtual void ProgressChanged(const CProgressCtrl& progress) = 0;
+};
+} // namespace seisplot
 
 class CProgressCtrl {
 public:
@@ -27,11 +39,22 @@ public:
     // bar does; returns the previous position.
     int StepIt();
 
+    // The bar that shows this progress (null: none); the view outlives its attachment.
+    void SetView(seisplot::ProgressView* view) { m_view = view; }
+
 protected:
     // Called after every change of range or position.
     virtual void Changed() {}
 
 private:
+    void Notify() {
+        Changed();
+        if (m_view != nullptr) {
+            m_view->ProgressChanged(*this);
+        }
+    }
+
+    seisplot::ProgressView* m_view = nullptr;
     int m_lower = 0;
     int m_upper = 100;
     int m_step = 10;

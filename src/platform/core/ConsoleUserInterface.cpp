@@ -167,6 +167,11 @@ bool ConsoleUserInterface::ChooseFont(FontChoice& /*choice*/) {
     return false;
 }
 
+bool ConsoleUserInterface::ChoosePrinter(PrinterChoice& /*choice*/) {
+    m_err << "seisplot: no printer can be chosen here; nothing is printed\n";
+    return false;
+}
+
 bool ConsoleUserInterface::StartProcess(const CString& commandLine) {
     m_err << "seisplot: not started here: " << commandLine.GetString() << '\n';
     return true;

@@ -27,6 +27,7 @@ public:
     std::optional<std::vector<CString>> ChooseFiles(const FileRequest& request) override;
     bool ChooseUnits(UnitQuestion& question) override;
     bool ChooseFont(FontChoice& choice) override;
+    bool ChoosePrinter(PrinterChoice& choice) override;
     void BeginWait() override {}
     void EndWait() override {}
     bool StartProcess(const CString& commandLine) override;

@@ -37,6 +37,11 @@ bool HeadlessUserInterface::ChooseFont(FontChoice& /*choice*/) {
     return false;
 }
 
+bool HeadlessUserInterface::ChoosePrinter(PrinterChoice& /*choice*/) {
+    Log("no printer can be chosen here");
+    return false;
+}
+
 void HeadlessUserInterface::EndWait() {
     if (m_waitDepth > 0) {
         --m_waitDepth;

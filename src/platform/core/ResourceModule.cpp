@@ -8,8 +8,11 @@ namespace seisplot {
 namespace {
 
 // The library's texts come from its built-in table, in the language of the moment.
+// Its dialog templates are built into the library's dialog layer.
 class LibraryResources final : public ResourceModule {
 public:
+    LibraryResources() { SetTemplateFolder(":/seisplot/dialogs"); }
+
     std::optional<CString> FindString(UINT id) const override {
         if (!HasLibraryString(id)) {
             return std::nullopt;

@@ -12,7 +12,7 @@
 
 namespace seisplot {
 
-// One module's resources: its string table.
+// One module's resources: its string table and the folder of its dialog templates.
 class ResourceModule {
 public:
     ResourceModule() = default;
@@ -24,8 +24,14 @@ public:
     // The text of `id`, when this module holds one.
     virtual std::optional<CString> FindString(UINT id) const;
 
+    // Where the module's dialog templates are, as "<folder>/<id>.ui" files (empty: none). The
+    // dialog layer looks for a template in the modules of the search order.
+    void SetTemplateFolder(CString folder) { m_templateFolder = std::move(folder); }
+    const CString& TemplateFolder() const { return m_templateFolder; }
+
 private:
     std::map<UINT, CString> m_strings;
+    CString m_templateFolder;
 };
 
 } // namespace seisplot

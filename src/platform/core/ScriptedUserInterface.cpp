@@ -17,6 +17,8 @@ void ScriptedUserInterface::Clear() {
     m_files.clear();
     m_units.clear();
     m_fonts.clear();
+    m_printers.clear();
+    m_printerRequests.clear();
     m_messages.clear();
     m_fileRequests.clear();
     m_unitQuestions.clear();
@@ -78,6 +80,21 @@ bool ScriptedUserInterface::ChooseUnits(UnitQuestion& question) {
             }
         }
     }
+    return true;
+}
+
+bool ScriptedUserInterface::ChoosePrinter(PrinterChoice& choice) {
+    m_printerRequests.push_back(choice.flags);
+    if (m_printers.empty()) {
+        ++m_unanswered;
+        return false;
+    }
+    const std::optional<CString> answer = m_printers.front();
+    m_printers.pop_front();
+    if (!answer) {
+        return false;
+    }
+    choice.outputFile = *answer;
     return true;
 }
 

@@ -27,6 +27,9 @@ public:
     void QueueUnits(UnitAnswer answer) { m_units.push_back(std::move(answer)); }
     void QueueFont(const FontChoice& choice) { m_fonts.push_back(choice); }
     void QueueCancelFont() { m_fonts.push_back(std::nullopt); }
+    // A print dialog confirmed with a printer that writes `pdfPath`, or cancelled.
+    void QueuePrinter(const CString& pdfPath) { m_printers.push_back(pdfPath); }
+    void QueueCancelPrinter() { m_printers.push_back(std::nullopt); }
 
     // What happened
     const std::vector<Message>& Messages() const { return m_messages; }
@@ -36,6 +39,8 @@ public:
     // The font and colour each font chooser opened on.
     const std::vector<FontChoice>& FontRequests() const { return m_fontRequests; }
     const std::vector<CString>& Processes() const { return m_processes; }
+    // The flags each print dialog was opened with.
+    const std::vector<DWORD>& PrinterRequests() const { return m_printerRequests; }
     int Unanswered() const { return m_unanswered; }
     int WaitDepth() const { return m_waitDepth; }
     int WaitCount() const { return m_waitCount; }
@@ -45,6 +50,7 @@ public:
     std::optional<std::vector<CString>> ChooseFiles(const FileRequest& request) override;
     bool ChooseUnits(UnitQuestion& question) override;
     bool ChooseFont(FontChoice& choice) override;
+    bool ChoosePrinter(PrinterChoice& choice) override;
     void BeginWait() override;
     void EndWait() override { --m_waitDepth; }
     bool StartProcess(const CString& commandLine) override;
@@ -54,6 +60,8 @@ private:
     std::deque<std::optional<std::vector<CString>>> m_files;
     std::deque<UnitAnswer> m_units;
     std::deque<std::optional<FontChoice>> m_fonts;
+    std::deque<std::optional<CString>> m_printers;
+    std::vector<DWORD> m_printerRequests;
     std::vector<Message> m_messages;
     std::vector<FileRequest> m_fileRequests;
     std::vector<UnitQuestion> m_unitQuestions;

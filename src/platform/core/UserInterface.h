@@ -93,6 +93,14 @@ struct FontChoice {
     COLORREF colour = 0;
 };
 
+// The printer a print dialog chose: a printer by name, or a PDF file (for a printer that writes
+// files, and for tests). `flags` are the PD_... flags the caller gave the dialog.
+struct PrinterChoice {
+    DWORD flags = 0;
+    CString printerName; // empty: the system's default printer
+    CString outputFile;  // not empty: print to this PDF file
+};
+
 // A message as it was shown, with the button that answered it.
 struct ShownMessage {
     CString text;
@@ -113,6 +121,9 @@ public:
     // Lets the user change the font and its colour; false (and `choice` untouched) when
     // cancelled.
     virtual bool ChooseFont(FontChoice& choice) = 0;
+    // Lets the user choose a printer; false (and `choice` untouched but for what was asked)
+    // when cancelled.
+    virtual bool ChoosePrinter(PrinterChoice& choice) = 0;
     // The wait cursor: shown while the count of BeginWait over EndWait is positive.
     virtual void BeginWait() = 0;
     virtual void EndWait() = 0;

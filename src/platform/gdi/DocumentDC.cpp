@@ -1,6 +1,7 @@
 #include "platform/gdi/DocumentDC.h"
 
-#include "platform/gdi/FontEngine_p.h"
+#include "platform/gdi/DocumentDC_p.h"
+#include "platform/gdi/GuiApplication_p.h"
 #include "platform/gdi/Painting_p.h"
 #include "platform/gdi/PixelImage_p.h"
 #include "platform/gdi/Surface_p.h"
@@ -16,8 +17,8 @@ namespace {
 // undone on paper or in a vector picture: figures are drawn plainly.
 class DocumentSurface final : public Surface {
 public:
-    DocumentSurface(std::unique_ptr<QPaintDevice> device, DeviceCaps caps, bool pdf)
-        : m_device(std::move(device)), m_caps(caps), m_pdf(pdf) {
+    DocumentSurface(std::unique_ptr<QPaintDevice> device, DeviceCaps caps, bool paged)
+        : m_device(std::move(device)), m_caps(caps), m_paged(paged) {
         m_ok = m_painter.begin(m_device.get());
     }
     ~DocumentSurface() override { Finish(); }
@@ -30,8 +31,8 @@ public:
             return;
         }
         if (m_pageWanted) {
-            if (auto* pdf = dynamic_cast<QPdfWriter*>(m_device.get())) {
-                pdf->newPage();
+            if (auto* paged = dynamic_cast<QPagedPaintDevice*>(m_device.get())) {
+                paged->newPage();
             }
             m_pageWanted = false;
         }
@@ -72,7 +73,7 @@ public:
         }
     }
 
-    void NewPage() override { m_pageWanted = m_pdf; }
+    void NewPage() override { m_pageWanted = m_paged; }
 
     void Finish() override {
         if (m_painter.isActive()) {
@@ -84,7 +85,7 @@ private:
     std::unique_ptr<QPaintDevice> m_device;
     QPainter m_painter;
     DeviceCaps m_caps;
-    bool m_pdf;
+    bool m_paged;
     bool m_ok = false;
     bool m_pageWanted = false;
 };
@@ -101,17 +102,7 @@ std::unique_ptr<DocumentDC> DocumentDC::OpenPdf(const CString& path, double widt
     writer->setPageMargins(QMarginsF(0, 0, 0, 0));
     writer->setResolution(dpi);
     writer->setCreator(QStringLiteral("seisplot"));
-    DeviceCaps caps;
-    caps.width = writer->width();
-    caps.height = writer->height();
-    caps.dpiX = caps.dpiY = dpi;
-    caps.technology = DT_RASPRINTER;
-    caps.printing = true;
-    auto surface = std::make_shared<DocumentSurface>(std::move(writer), caps, true);
-    if (!surface->Ok()) {
-        return nullptr;
-    }
-    return std::unique_ptr<DocumentDC>(new DocumentDC(surface));
+    return OpenPagedDevice(std::move(writer), dpi);
 }
 
 std::unique_ptr<DocumentDC> DocumentDC::OpenSvg(const CString& path, int width, int height,
@@ -128,6 +119,21 @@ std::unique_ptr<DocumentDC> DocumentDC::OpenSvg(const CString& path, int width, 
     caps.height = height;
     caps.dpiX = caps.dpiY = dpi;
     auto surface = std::make_shared<DocumentSurface>(std::move(svg), caps, false);
+    if (!surface->Ok()) {
+        return nullptr;
+    }
+    return std::unique_ptr<DocumentDC>(new DocumentDC(surface));
+}
+
+std::unique_ptr<DocumentDC> OpenPagedDevice(std::unique_ptr<QPagedPaintDevice> device, int dpi) {
+    EnsureGuiApplication();
+    DeviceCaps caps;
+    caps.width = device->width();
+    caps.height = device->height();
+    caps.dpiX = caps.dpiY = dpi;
+    caps.technology = DT_RASPRINTER;
+    caps.printing = true;
+    auto surface = std::make_shared<DocumentSurface>(std::move(device), caps, true);
     if (!surface->Ok()) {
         return nullptr;
     }

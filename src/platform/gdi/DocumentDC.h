@@ -6,6 +6,8 @@
 
 #include <memory>
 
+class QPagedPaintDevice;
+
 namespace seisplot {
 
 class DocumentDC : public CDC {
@@ -20,6 +22,8 @@ public:
     bool Close();
 
 private:
+    friend std::unique_ptr<DocumentDC> OpenPagedDevice(std::unique_ptr<QPagedPaintDevice> device,
+                                                       int dpi);
     explicit DocumentDC(std::shared_ptr<Surface> surface);
     // Held here too, so that Close works after DeleteDC.
     std::shared_ptr<Surface> m_document;

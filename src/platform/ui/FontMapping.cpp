@@ -1,5 +1,7 @@
 #include "platform/ui/FontMapping_p.h"
 
+#include "platform/gdi/FontEngine_p.h"
+
 #include <QFontDatabase>
 #include <QFontInfo>
 
@@ -37,11 +39,11 @@ QString InstalledStyle(const QString& family, int weight, bool italic) {
 } // namespace
 
 QFont QFontOfLogFont(const LOGFONTA& font) {
-    QFont qfont;
-    const QByteArray face(font.lfFaceName, static_cast<int>(strnlen(font.lfFaceName, LF_FACESIZE)));
-    if (!face.isEmpty()) {
-        qfont.setFamily(QString::fromLatin1(face));
-    }
+    // Open on the face that really draws the text: the one the device contexts map the
+    // logical face to.
+    char face[LF_FACESIZE + 1] = {};
+    std::memcpy(face, font.lfFaceName, LF_FACESIZE);
+    QFont qfont(InstalledFace(face));
     if (font.lfHeight != 0) {
         qfont.setPointSize(std::abs(font.lfHeight));
     }
@@ -51,8 +53,6 @@ QFont QFontOfLogFont(const LOGFONTA& font) {
     qfont.setItalic(font.lfItalic != 0);
     qfont.setUnderline(font.lfUnderline != 0);
     qfont.setStrikeOut(font.lfStrikeOut != 0);
-    // Open on the face that is really used: the installed one that stands in for a face
-    // missing here, or the default face when none is named.
     const QString family = QFontInfo(qfont).family();
     qfont.setFamily(family);
     const QString style = InstalledStyle(family, qfont.weight(), qfont.italic());

@@ -2,6 +2,7 @@
 
 #include "platform/core/CFileDialog.h"
 #include "platform/ui/FontMapping_p.h"
+#include "platform/ui/PrintDialog.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -14,6 +15,8 @@
 #include <QFontDialog>
 #include <QFormLayout>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QProcess>
 #include <QUrl>
 
@@ -192,6 +195,24 @@ bool QtUserInterface::ChooseFont(FontChoice& choice) {
     }
     choice.font = LogFontOfQFont(font, choice.font);
     choice.colour = ColorRefOfQColor(colour);
+    return true;
+}
+
+bool QtUserInterface::ChoosePrinter(PrinterChoice& choice) {
+    QPrinter printer(QPrinter::HighResolution);
+    QPrintDialog dialog(&printer, QApplication::activeWindow());
+    QPrintDialog::PrintDialogOptions options = QPrintDialog::PrintShowPageSize;
+    if ((choice.flags & PD_HIDEPRINTTOFILE) == 0) {
+        options |= QPrintDialog::PrintToFile;
+    }
+    dialog.setOptions(options);
+    if (dialog.exec() != QDialog::Accepted) {
+        return false;
+    }
+    const QByteArray name = printer.printerName().toLocal8Bit();
+    const QByteArray file = printer.outputFileName().toLocal8Bit();
+    choice.printerName = CString(name.constData(), static_cast<int>(name.size()));
+    choice.outputFile = CString(file.constData(), static_cast<int>(file.size()));
     return true;
 }
 

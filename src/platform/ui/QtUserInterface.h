@@ -14,6 +14,7 @@ public:
     std::optional<std::vector<CString>> ChooseFiles(const FileRequest& request) override;
     bool ChooseUnits(UnitQuestion& question) override;
     bool ChooseFont(FontChoice& choice) override;
+    bool ChoosePrinter(PrinterChoice& choice) override;
     void BeginWait() override;
     void EndWait() override;
     // "notepad.exe <file>", the library's text viewer, opens the file in the desktop's own

@@ -1,0 +1,48 @@
+#pragma once
+// Steps the studio runs by itself when asked on the command line: what its tests and the
+// screenshots of the documentation need (open, import, save, select, open a dialog through
+// its menu, describe and photograph the dialog, quit).
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+class QDialog;
+
+namespace seisplot::studio {
+
+class MainWindow;
+
+struct AutomationSteps {
+    QString project;      // open this project
+    QStringList imports;  // then import these record files
+    QString select;       // then select this item of the side panel
+    QString saveAs;       // then save the project here
+    QString windowShot;   // then photograph the main window
+    QString dialogAction; // then trigger this menu action...
+    QString dialogReport; // ...describe the dialog it opens in this text file...
+    QString dialogShot;   // ...photograph the screen with it (import -window root)
+    bool quit = false;    // and end, instead of waiting for the user
+};
+
+// Runs the steps once the window is on screen; false (after saying why on the error stream)
+// when one fails.
+bool RunSteps(MainWindow& window, const AutomationSteps& steps);
+
+// Describes and photographs the next dialog that shows, then cancels it.
+class DialogWitness : public QObject {
+public:
+    DialogWitness(QString report, QString shot)
+        : m_report(std::move(report)), m_shot(std::move(shot)) {}
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    bool Seen() const { return m_seen; }
+
+private:
+    void Witness(QDialog* dialog);
+
+    QString m_report;
+    QString m_shot;
+    bool m_seen = false;
+};
+
+} // namespace seisplot::studio

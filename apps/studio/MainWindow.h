@@ -1,0 +1,61 @@
+#pragma once
+// The studio's main window: the project in a side panel, the selected item drawn in the
+// centre, and menus that open the library's dialogs the way a host opens them.
+
+#include "PlotView.h"
+#include "Project.h"
+
+#include <QMainWindow>
+
+class QTreeWidget;
+
+namespace seisplot::studio {
+
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    MainWindow();
+
+    Project& CurrentProject() { return m_project; }
+    bool OpenProject(const QString& path);
+    bool SaveProjectAs(const QString& path);
+    // Imports record files as the multi-file import does, without asking for them.
+    bool ImportRecords(const QStringList& paths);
+    // Selects the item a path in the side panel names: "Records/2", "Polygon", ...
+    bool SelectItem(const QString& path);
+    PlotView& View() { return *m_view; }
+
+    // Rebuilds the side panel and redraws the view from the project.
+    void Refresh();
+
+private:
+    void BuildMenus();
+    void ShowSelected();
+    void SetFileName(const QString& path);
+    // File menu
+    void NewProject();
+    void Open();
+    void Save();
+    void SaveAs();
+    void ImportRecordFiles();
+    // Geometry menu: the polygon built with the geometry library's dialogs
+    void AddPoint();
+    void AddSideByProjections();
+    void AddSideByAngleAndLength();
+    void AddSideByAngleAndDx();
+    void AddSideByAngleAndDy();
+    void AddArc();
+    void ClearPolygon();
+    // Settings menu
+    void ChooseUnits();
+    void ChoosePlotFont(SFont& font);
+    void About();
+
+    Project m_project;
+    QString m_path;
+    QTreeWidget* m_panel;
+    PlotView* m_view;
+};
+
+} // namespace seisplot::studio

@@ -1,0 +1,33 @@
+#!/usr/bin/env bash
+# Photographs the studio and its dialogs for docs/, in English and Italian, in a virtual X
+# server (with openbox for window frames, when it is installed). Run after `make build`:
+#   scripts/docs-screenshots.sh [build/default]
+set -euo pipefail
+cd "$(dirname "$0")/.."
+build=${1:-build/default}
+if [ -z "${SEISPLOT_SHOTS_IN_X:-}" ]; then
+    exec env SEISPLOT_SHOTS_IN_X=1 xvfb-run -a -s "-screen 0 1280x800x24" "$0" "$build"
+fi
+command -v openbox >/dev/null && { openbox >/dev/null 2>&1 & sleep 1; }
+
+studio=$build/apps/studio/seisplot-studio
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+project=$folder/demo.spj
+imports=()
+for f in data/samples/*.ASC data/samples/*.RA data/samples/*.TR data/samples/*.UP; do
+    imports+=(--import "$f")
+done
+"$studio" "${imports[@]}" --save-as "$project" --quit
+
+# shot NAME ACTION [studio options...]: the whole screen with the dialog of ACTION open.
+shot() {
+    local name=$1 action=$2
+    shift 2
+    for language in en it; do
+        "$studio" "$project" --language "$language" "$@" --open-dialog "$action" \
+            --dialog-screenshot "docs/$name-$language.png" --quit
+    done
+}
+shot studio-arc-dialog addArc --select Records/2
+echo "docs-screenshots: written to docs/"
