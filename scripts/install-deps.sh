@@ -8,7 +8,7 @@ packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     clang libclang-rt-14-dev clang-format
     libcli11-dev nlohmann-json3-dev
-    libhwy-dev
+    libhwy-dev libmuparser-dev
     qt6-base-dev qt6-svg-dev qt6-qpa-plugins qt6-tools-dev qt6-l10n-tools libqt6opengl6-dev
     xvfb xauth imagemagick
     fonts-dejavu-core fonts-liberation2

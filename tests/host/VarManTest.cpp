@@ -1,0 +1,80 @@
+// The expression library: what a formula evaluates to, and every way it can fail without
+// touching the result.
+
+#include "host/VarMan.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <numbers>
+#include <string>
+
+namespace {
+
+// Evaluates `formula` over A = a, B = b (and `extra` after them); the status, the value.
+std::pair<int, double> Evaluate(const char* formula, double a, double b,
+                                const char* extra = nullptr) {
+    VarMan vars;
+    vars.AddVar("A", a, 1);
+    vars.AddVar("B", b, 10);
+    if (extra != nullptr) {
+        vars.AddVar(extra, 0.0, 0);
+    }
+    std::string text = formula;
+    char* cursor = text.data();
+    Variable result("untouched", -7.0, 3);
+    const int status = vars.expression(&cursor, &result);
+    if (status != 0) {
+        EXPECT_EQ(cursor, text.data());
+        EXPECT_EQ(result.GetAsDouble(), -7.0);
+        EXPECT_EQ(result.GetName(), "untouched");
+    } else {
+        EXPECT_EQ(cursor, text.data() + text.size());
+    }
+    return {status, result.GetAsDouble()};
+}
+
+} // namespace
+
+TEST(VarManTest, FormulasFollowArithmeticOverTheVariables) {
+    EXPECT_EQ(Evaluate("A-B", 10.5, 0.25), std::make_pair(0, 10.25));
+    EXPECT_EQ(Evaluate("-A^2+B*3", 2.0, 4.0), std::make_pair(0, 8.0)); // -(A^2) + 12
+    EXPECT_EQ(Evaluate("(A+B)/2", 3.0, 6.0), std::make_pair(0, 4.5));
+    // The constants are the doubles nearest pi and e, not 12-decimal approximations.
+    EXPECT_EQ(Evaluate("sqrt(A)*_pi", 16.0, 0.0), std::make_pair(0, 4.0 * std::numbers::pi));
+    EXPECT_EQ(Evaluate("_e*B", 0.0, 3.0), std::make_pair(0, std::numbers::e * 3.0));
+    EXPECT_EQ(Evaluate("A>B ? A : B", 1.0, 2.0), std::make_pair(0, 2.0));
+    // The same formula again, with other values and then other names in another order: a
+    // formula compiled for one set of names must not serve another.
+    EXPECT_EQ(Evaluate("A-B", -1.0, 1.0), std::make_pair(0, -2.0));
+    VarMan swapped;
+    swapped.AddVar("B", 1.0, 0);
+    swapped.AddVar("A", 5.0, 0);
+    char formula[] = "A-B";
+    char* cursor = formula;
+    Variable result;
+    ASSERT_EQ(swapped.expression(&cursor, &result), 0);
+    EXPECT_EQ(result.GetAsDouble(), 4.0);
+}
+
+TEST(VarManTest, ErrorsAreNonZeroAndLeaveResultAndCursor) {
+    for (const char* formula : {"A-", "A+C", "(A", "", "A,B", "A B", "1/0*0+A/0", "sqrt(-A)"}) {
+        SCOPED_TRACE(formula);
+        EXPECT_NE(Evaluate(formula, 1.0, 2.0).first, 0);
+    }
+    // A name given twice, or one the grammar cannot hold, makes every formula an error.
+    EXPECT_NE(Evaluate("A+B", 1.0, 2.0, "A").first, 0);
+    EXPECT_NE(Evaluate("A+B", 1.0, 2.0, "2x").first, 0);
+    EXPECT_NE(Evaluate("A+B", 1.0, 2.0, "").first, 0);
+    // After an error the same formula with good names works.
+    EXPECT_EQ(Evaluate("A+B", 1.0, 2.0), std::make_pair(0, 3.0));
+}
+
+TEST(VarManTest, DeleteBlanksRemovesEveryBlankInPlace) {
+    char text[] = " Drift X\t= (A -  B)\r\n";
+    VarMan::DeleteBlanks(text);
+    EXPECT_STREQ(text, "DriftX=(A-B)");
+    char empty[] = "   ";
+    VarMan::DeleteBlanks(empty);
+    EXPECT_STREQ(empty, "");
+}
