@@ -11,7 +11,10 @@ fi
 command -v openbox >/dev/null && { openbox >/dev/null 2>&1 & sleep 1; }
 
 studio=$build/apps/studio/seisplot-studio
-folder=$(mktemp -d)
+# A fixed folder, so that the paths the dialogs show read the same from one run to the next.
+folder=${TMPDIR:-/tmp}/seisplot-demo
+rm -rf "$folder"
+mkdir -p "$folder"
 trap 'rm -rf "$folder"' EXIT
 project=$folder/demo.spj
 imports=()
@@ -19,6 +22,9 @@ for f in data/samples/*.ASC data/samples/*.RA data/samples/*.TR data/samples/*.U
     imports+=(--import "$f")
 done
 "$studio" "${imports[@]}" --save-as "$project" --quit
+# Two records copied to the project's curves, for the curve dialogs.
+"$studio" "$project" --select Records/1 --action copyToCurves --save-as "$project" --quit
+"$studio" "$project" --select Records/2 --action copyToCurves --save-as "$project" --quit
 
 # shot NAME ACTION [studio options...]: the whole screen with the dialog of ACTION open.
 shot() {
@@ -30,4 +36,6 @@ shot() {
     done
 }
 shot studio-arc-dialog addArc --select Records/2
+shot curve-display showCurves --select Curves/1
+shot curve-mixing mixCurves --select Curves/1
 echo "docs-screenshots: written to docs/"

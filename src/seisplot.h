@@ -47,6 +47,7 @@
 #include "host/RPoint2DColl.h"
 #include "host/RPoly.h"
 #include "host/Units.h"
+#include "host/VarMan.h"
 #include "host/dialogs/CoordinateDialogs.h"
 
 // Records
@@ -71,3 +72,7 @@
 
 // Curve plots
 #include "plot/CurvePlot.h"
+
+// The library's dialogs
+#include "dialogs/curves/CurveDisplay.h"
+#include "dialogs/curves/CurveMixing.h"

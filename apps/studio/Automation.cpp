@@ -98,6 +98,13 @@ bool RunSteps(MainWindow& window, const AutomationSteps& steps) {
     if (!steps.select.isEmpty() && !window.SelectItem(steps.select)) {
         return Fail("no item " + steps.select + " in the project");
     }
+    for (const QString& name : steps.actions) {
+        auto* action = window.findChild<QAction*>(name);
+        if (action == nullptr) {
+            return Fail("no menu action " + name);
+        }
+        action->trigger();
+    }
     if (!steps.saveAs.isEmpty() && !window.SaveProjectAs(steps.saveAs)) {
         return Fail("cannot save " + steps.saveAs);
     }

@@ -17,6 +17,7 @@ struct AutomationSteps {
     QString project;      // open this project
     QStringList imports;  // then import these record files
     QString select;       // then select this item of the side panel
+    QStringList actions;  // then trigger these menu actions, which open no dialog
     QString saveAs;       // then save the project here
     QString windowShot;   // then photograph the main window
     QString dialogAction; // then trigger this menu action...

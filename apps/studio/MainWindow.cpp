@@ -1,12 +1,15 @@
 #include "MainWindow.h"
 
 #include "PolygonSides.h"
+#include "dialogs/curves/CurveDisplay.h"
+#include "dialogs/curves/CurveMixing.h"
 #include "host/dialogs/CoordinateDialogs.h"
 #include "platform/core/Product.h"
 #include "platform/core/UserInterface.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
@@ -89,6 +92,15 @@ void MainWindow::BuildMenus() {
     add(geometry, "addArc", tr("Add &arc..."), [this] { AddArc(); });
     geometry->addSeparator();
     add(geometry, "clearPolygon", tr("&Clear the polygon"), [this] { ClearPolygon(); });
+
+    QMenu* curves = menuBar()->addMenu(tr("&Curves"));
+    add(curves, "copyToCurves", tr("Copy the selected &record or spectrum to the curves"),
+        [this] { CopySelectedToCurves(); });
+    curves->addSeparator();
+    add(curves, "showCurves", tr("Curve &display..."), [this] { ShowCurves(); });
+    add(curves, "mixCurves", tr("Curve &mixing..."), [this] { MixCurves(); });
+    add(curves, "showPolylines", tr("&Polyline display..."), [this] { ShowPolylines(); });
+    add(curves, "mixPolylines", tr("Po&lyline mixing..."), [this] { MixPolylines(); });
 
     QMenu* settings = menuBar()->addMenu(tr("&Settings"));
     add(settings, "chooseUnits", tr("&Units..."), [this] { ChooseUnits(); });
@@ -327,6 +339,70 @@ void MainWindow::AddArc() {
 void MainWindow::ClearPolygon() {
     m_project.polygon.Clear();
     Refresh();
+}
+
+void MainWindow::CopySelectedToCurves() {
+    QTreeWidgetItem* item = m_panel->currentItem();
+    const QStringList path =
+        item != nullptr ? item->data(0, kPathRole).toString().split('/') : QStringList();
+    const auto number = static_cast<unsigned long>(path.value(1).toInt());
+    if (path.value(0) == "Records" && number > 0) {
+        m_project.curves.AddPCurve(m_project.records.GetP(number)->Record);
+    } else if (path.value(0) == "Spectra" && number > 0) {
+        m_project.curves.AddPCurve(m_project.spectra.GetP(number)->Curve);
+    } else {
+        statusBar()->showMessage(tr("Select a record or a spectrum first"), 5000);
+        return;
+    }
+    Refresh();
+    SelectItem(QStringLiteral("Curves/%1").arg(m_project.curves.GetPCurveNum()));
+}
+
+QString MainWindow::CollectionPath(const char* extension) const {
+    const QFileInfo project(m_path.isEmpty() ? QDir::home().filePath("untitled.spj") : m_path);
+    return project.dir().filePath(project.completeBaseName() + QLatin1String(extension));
+}
+
+void MainWindow::ShowCurves() {
+    PrintPCurve dialog;
+    dialog.UnitSystem = &m_project.units;
+    dialog.Coll = m_project.curves;
+    dialog.Path = CollectionPath(".pcc").toLocal8Bit().constData();
+    if (dialog.DoModal() == IDOK) {
+        m_project.curves = dialog.Coll;
+        Refresh();
+    }
+}
+
+void MainWindow::ShowPolylines() {
+    PrintPMCurve dialog;
+    dialog.UnitSystem = &m_project.units;
+    dialog.Coll = m_project.polylines;
+    dialog.Path = CollectionPath(".pmc").toLocal8Bit().constData();
+    if (dialog.DoModal() == IDOK) {
+        m_project.polylines = dialog.Coll;
+        Refresh();
+    }
+}
+
+void MainWindow::MixCurves() {
+    MixPCurve dialog;
+    dialog.UnitSystem = m_project.units;
+    dialog.Coll = m_project.curves;
+    if (dialog.DoModal() == IDOK) {
+        m_project.curves = dialog.Coll;
+        Refresh();
+    }
+}
+
+void MainWindow::MixPolylines() {
+    MixCurve dialog;
+    dialog.UnitSystem = m_project.units;
+    dialog.Coll = m_project.polylines;
+    if (dialog.DoModal() == IDOK) {
+        m_project.polylines = dialog.Coll;
+        Refresh();
+    }
 }
 
 void MainWindow::ChooseUnits() {

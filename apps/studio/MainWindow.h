@@ -47,6 +47,14 @@ private:
     void AddSideByAngleAndDy();
     void AddArc();
     void ClearPolygon();
+    // Curves menu: the curve display and mixing dialogs on the project's curves and polylines
+    void CopySelectedToCurves();
+    void ShowCurves();
+    void ShowPolylines();
+    void MixCurves();
+    void MixPolylines();
+    // Where the display dialogs save a changed collection: beside the project.
+    QString CollectionPath(const char* extension) const;
     // Settings menu
     void ChooseUnits();
     void ChoosePlotFont(SFont& font);

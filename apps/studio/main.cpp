@@ -60,6 +60,9 @@ int main(int argc, char** argv) {
     const QCommandLineOption language({"l", "language"}, "Texts in English or Italian.", "en|it");
     const QCommandLineOption import("import", "Import an ITACA record file (repeatable).", "file");
     const QCommandLineOption select("select", "Select an item: Records/2, Polygon, ...", "item");
+    const QCommandLineOption action(
+        "action", "Trigger a menu action that opens no dialog (repeatable): copyToCurves, ...",
+        "action");
     const QCommandLineOption saveAs("save-as", "Save the project to this file.", "file");
     const QCommandLineOption shot("screenshot", "Write a picture of the main window.", "png");
     const QCommandLineOption dialog(
@@ -69,7 +72,8 @@ int main(int argc, char** argv) {
     const QCommandLineOption dialogShot("dialog-screenshot",
                                         "Photograph the screen with that dialog shown.", "png");
     const QCommandLineOption quit("quit", "End after the steps above instead of staying open.");
-    parser.addOptions({language, import, select, saveAs, shot, dialog, report, dialogShot, quit});
+    parser.addOptions(
+        {language, import, select, action, saveAs, shot, dialog, report, dialogShot, quit});
     parser.process(app);
     if (parser.isSet(language)) {
         qputenv("SEISPLOT_LANG", parser.value(language).toLatin1());
@@ -93,6 +97,7 @@ int main(int argc, char** argv) {
     steps.project = parser.positionalArguments().value(0);
     steps.imports = parser.values(import);
     steps.select = parser.value(select);
+    steps.actions = parser.values(action);
     steps.saveAs = parser.value(saveAs);
     steps.windowShot = parser.value(shot);
     steps.dialogAction = parser.value(dialog);

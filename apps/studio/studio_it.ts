@@ -1,4 +1,5 @@
-<?xml version='1.0' encoding='utf-8'?>
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
 <TS version="2.1" language="it_IT">
 <context>
     <name>seisplot::studio::MainWindow</name>
@@ -155,8 +156,36 @@
         <translation>Informazioni su seisplot studio</translation>
     </message>
     <message>
-        <source>&lt;b&gt;seisplot studio&lt;/b&gt;&lt;p&gt;%1&lt;/p&gt;&lt;p&gt;The desktop application that holds a project of records, spectra, curves and a polygon, and opens the library's dialogs on it.&lt;/p&gt;</source>
-        <translation>&lt;b&gt;seisplot studio&lt;/b&gt;&lt;p&gt;%1&lt;/p&gt;&lt;p&gt;L'applicazione desktop che contiene un progetto di registrazioni, spettri, curve e un poligono, e vi apre le finestre di dialogo della libreria.&lt;/p&gt;</translation>
+        <source>&lt;b&gt;seisplot studio&lt;/b&gt;&lt;p&gt;%1&lt;/p&gt;&lt;p&gt;The desktop application that holds a project of records, spectra, curves and a polygon, and opens the library&apos;s dialogs on it.&lt;/p&gt;</source>
+        <translation>&lt;b&gt;seisplot studio&lt;/b&gt;&lt;p&gt;%1&lt;/p&gt;&lt;p&gt;L&apos;applicazione desktop che contiene un progetto di registrazioni, spettri, curve e un poligono, e vi apre le finestre di dialogo della libreria.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&amp;Curves</source>
+        <translation>&amp;Curve</translation>
+    </message>
+    <message>
+        <source>Copy the selected &amp;record or spectrum to the curves</source>
+        <translation>Copia la &amp;registrazione o lo spettro selezionato tra le curve</translation>
+    </message>
+    <message>
+        <source>Curve &amp;display...</source>
+        <translation>&amp;Visualizzazione curve...</translation>
+    </message>
+    <message>
+        <source>Curve &amp;mixing...</source>
+        <translation>&amp;Combinazione curve...</translation>
+    </message>
+    <message>
+        <source>&amp;Polyline display...</source>
+        <translation>Visualizzazione &amp;polilinee...</translation>
+    </message>
+    <message>
+        <source>Po&amp;lyline mixing...</source>
+        <translation>Combinazione po&amp;lilinee...</translation>
+    </message>
+    <message>
+        <source>Select a record or a spectrum first</source>
+        <translation>Selezionare prima una registrazione o uno spettro</translation>
     </message>
 </context>
 </TS>

@@ -189,7 +189,15 @@ int CComboBox::GetCount() const {
 
 int CComboBox::GetCurSel() const {
     auto* combo = WidgetOf<QComboBox>(*this);
-    return combo != nullptr ? combo->currentIndex() : CB_ERR;
+    if (combo == nullptr) {
+        return CB_ERR;
+    }
+    // Text typed into an editable combo box selects no entry, unless it is an entry's text.
+    const int index = combo->currentIndex();
+    if (combo->isEditable() && index >= 0 && combo->currentText() != combo->itemText(index)) {
+        return combo->findText(combo->currentText());
+    }
+    return index;
 }
 
 int CComboBox::SetCurSel(int index) {

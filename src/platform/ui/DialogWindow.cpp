@@ -343,6 +343,8 @@ void DialogWindow::Connect(int id, QWidget* widget) {
         QObject::connect(list, &QListWidget::itemDoubleClicked, m_widget.get(), notify(LBN_DBLCLK));
         QObject::connect(list, &QListWidget::itemChanged, m_widget.get(), notify(CLBN_CHKCHANGE));
     } else if (auto* combo = qobject_cast<QComboBox*>(widget)) {
+        // What is typed into an editable combo box never becomes an entry of its list.
+        combo->setInsertPolicy(QComboBox::NoInsert);
         QObject::connect(combo, &QComboBox::activated, m_widget.get(), notify(CBN_SELCHANGE));
         QObject::connect(combo, &QComboBox::editTextChanged, m_widget.get(),
                          notify(CBN_EDITCHANGE));
