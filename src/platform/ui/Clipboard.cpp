@@ -1,4 +1,5 @@
 #include "platform/ui/Clipboard.h"
+#include "platform/ui/Clipboard_p.h"
 
 #include "platform/core/FailureInjection.h"
 #include "platform/gdi/PixelImage_p.h"
@@ -10,14 +11,16 @@
 namespace {
 
 bool g_open = false;
+const CWnd* g_owner = nullptr;
 
 } // namespace
 
-BOOL OpenClipboard(CWnd* /*owner*/) {
+BOOL OpenClipboard(CWnd* owner) {
     if (g_open || seisplot::ShouldFail(seisplot::FailurePoint::ClipboardOpen)) {
         return FALSE;
     }
     g_open = true;
+    g_owner = owner;
     return TRUE;
 }
 
@@ -46,5 +49,17 @@ BOOL CloseClipboard() {
         return FALSE;
     }
     g_open = false;
+    g_owner = nullptr;
     return TRUE;
 }
+
+namespace seisplot {
+
+void ReleaseClipboardOf(const CWnd* owner) {
+    if (g_open && owner != nullptr && g_owner == owner) {
+        g_open = false;
+        g_owner = nullptr;
+    }
+}
+
+} // namespace seisplot

@@ -78,7 +78,7 @@ void SetControlText(CDataExchange* pDX, int id, const CString& text) {
     }
 }
 
-// A number as the framework shows it: enough digits to read back the same double.
+// A number as the framework shows it: at most 15 significant digits.
 CString NumberText(double value) {
     CString text;
     text.Format("%.*g", DBL_DIG, value);

@@ -3,6 +3,7 @@
 #include "platform/core/Exceptions.h"
 #include "platform/core/UserInterface.h"
 #include "platform/gdi/PixelImage_p.h"
+#include "platform/ui/Clipboard_p.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DialogAccess_p.h"
 #include "platform/ui/DialogDriver.h"
@@ -107,6 +108,9 @@ CString ControlView::Text() const {
     if (auto* group = qobject_cast<QGroupBox*>(w)) {
         return FrameworkText(group->title());
     }
+    if (auto* picker = qobject_cast<QDateTimeEdit*>(w)) {
+        return FrameworkText(picker->text());
+    }
     return w != nullptr ? FrameworkText(w->windowTitle()) : CString();
 }
 
@@ -116,6 +120,8 @@ void ControlView::SetText(const CString& value) {
     QWidget* w = m_widget;
     if (auto* line = qobject_cast<QLineEdit*>(w)) {
         line->setText(text);
+        // A text set from code shows from its beginning, as the framework's edits do.
+        line->setCursorPosition(0);
     } else if (auto* edit = qobject_cast<QPlainTextEdit*>(w)) {
         QString plain = text;
         plain.replace(QLatin1String("\r\n"), QLatin1String("\n"));
@@ -247,6 +253,7 @@ DialogWindow::~DialogWindow() {
         progress->SetView(nullptr);
     }
     m_owner.SetView(nullptr);
+    ReleaseClipboardOf(&m_owner);
     m_widget->SetOwner(nullptr);
     m_widget.reset();
 }
