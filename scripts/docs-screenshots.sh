@@ -38,4 +38,7 @@ shot() {
 shot studio-arc-dialog addArc --select Records/2
 shot curve-display showCurves --select Curves/1
 shot curve-mixing mixCurves --select Curves/1
+shot record-management manageRecords --select Records/1
+shot record-details recordDetails --select Records/1
+shot time-function timeFunction
 echo "docs-screenshots: written to docs/"

@@ -3,6 +3,8 @@
 #include "PolygonSides.h"
 #include "dialogs/curves/CurveDisplay.h"
 #include "dialogs/curves/CurveMixing.h"
+#include "dialogs/records/RecordDetails.h"
+#include "dialogs/records/TimeFunction.h"
 #include "host/dialogs/CoordinateDialogs.h"
 #include "platform/core/Product.h"
 #include "platform/core/UserInterface.h"
@@ -18,6 +20,8 @@
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTreeWidget>
+
+#include <algorithm>
 
 namespace seisplot::studio {
 namespace {
@@ -92,6 +96,12 @@ void MainWindow::BuildMenus() {
     add(geometry, "addArc", tr("Add &arc..."), [this] { AddArc(); });
     geometry->addSeparator();
     add(geometry, "clearPolygon", tr("&Clear the polygon"), [this] { ClearPolygon(); });
+
+    QMenu* records = menuBar()->addMenu(tr("&Records"));
+    add(records, "manageRecords", tr("&Manage records..."), [this] { ManageRecords(); });
+    add(records, "recordDetails", tr("Selected record's &details..."),
+        [this] { EditRecordDetails(); });
+    add(records, "timeFunction", tr("&Function of time..."), [this] { BuildTimeFunction(); });
 
     QMenu* curves = menuBar()->addMenu(tr("&Curves"));
     add(curves, "copyToCurves", tr("Copy the selected &record or spectrum to the curves"),
@@ -339,6 +349,50 @@ void MainWindow::AddArc() {
 void MainWindow::ClearPolygon() {
     m_project.polygon.Clear();
     Refresh();
+}
+
+void MainWindow::ManageRecords() {
+    if (m_project.records.GetData(&m_project.units) == 0) {
+        Refresh();
+    }
+}
+
+void MainWindow::EditRecordDetails() {
+    QTreeWidgetItem* item = m_panel->currentItem();
+    const QStringList path =
+        item != nullptr ? item->data(0, kPathRole).toString().split('/') : QStringList();
+    Accelerogram* record =
+        path.value(0) == "Records"
+            ? m_project.records.GetP(static_cast<unsigned long>(path.value(1).toInt()))
+            : nullptr;
+    if (record == nullptr) {
+        statusBar()->showMessage(tr("Select a record first"), 5000);
+        return;
+    }
+    AccData details(nullptr);
+    details.CopyFrom(*record);
+    if (details.DoModal() == IDOK) {
+        details.CopyTo(*record);
+        Refresh();
+    }
+}
+
+void MainWindow::BuildTimeFunction() {
+    GetTimeCurve dialog;
+    if (dialog.DoModal() != IDOK || dialog.Function.GetNP() == 0) {
+        return;
+    }
+    PCurve function = dialog.Function;
+    if (function.GetName().IsEmpty()) {
+        static const char* const kKinds[] = {"impulse",   "step", "limited step", "ramp",
+                                             "trapezoid", "sine", "cosine",       "generic"};
+        CString name = "f(t) ";
+        name += kKinds[std::clamp(dialog.Kind, 0, 7)];
+        function.SetName(name);
+    }
+    m_project.curves.AddPCurve(function);
+    Refresh();
+    SelectItem(QStringLiteral("Curves/%1").arg(m_project.curves.GetPCurveNum()));
 }
 
 void MainWindow::CopySelectedToCurves() {

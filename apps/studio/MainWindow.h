@@ -47,6 +47,11 @@ private:
     void AddSideByAngleAndDy();
     void AddArc();
     void ClearPolygon();
+    // Records menu: the record management dialog on the project's records, and the function
+    // of time added to the project's curves
+    void ManageRecords();
+    void EditRecordDetails();
+    void BuildTimeFunction();
     // Curves menu: the curve display and mixing dialogs on the project's curves and polylines
     void CopySelectedToCurves();
     void ShowCurves();

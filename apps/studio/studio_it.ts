@@ -187,5 +187,25 @@
         <source>Select a record or a spectrum first</source>
         <translation>Selezionare prima una registrazione o uno spettro</translation>
     </message>
+    <message>
+        <source>&amp;Records</source>
+        <translation>&amp;Registrazioni</translation>
+    </message>
+    <message>
+        <source>&amp;Manage records...</source>
+        <translation>&amp;Gestione registrazioni...</translation>
+    </message>
+    <message>
+        <source>&amp;Function of time...</source>
+        <translation>&amp;Funzione del tempo...</translation>
+    </message>
+    <message>
+        <source>Selected record&apos;s &amp;details...</source>
+        <translation>&amp;Dettagli della registrazione selezionata...</translation>
+    </message>
+    <message>
+        <source>Select a record first</source>
+        <translation>Selezionare prima una registrazione</translation>
+    </message>
 </context>
 </TS>

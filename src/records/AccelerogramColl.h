@@ -107,6 +107,12 @@ public:
     // (the records added before it stay).
     int ReadFromFile(int quiet, CProgressCtrl* progress);
 
+    // Lets the user edit a copy of the records in the record management dialog: on OK the
+    // records become the copy and the result is 0, on Cancel nothing changes and it is 1.
+    // Provided by the dialogs layer (seisplot::dialogs): a program that calls it links that
+    // layer, which the compute core does not need.
+    int GetData(Units* units);
+
     static CRuntimeClass classAccelerogramColl;
 
 private:

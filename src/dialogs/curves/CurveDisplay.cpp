@@ -1,9 +1,9 @@
 #include "dialogs/curves/CurveDisplay.h"
 
+#include "dialogs/PictureCopy.h"
 #include "dialogs/TextViewer.h"
 #include "dialogs/curves/CurveMixing.h"
 #include "platform/core/CFileDialog.h"
-#include "platform/ui/Clipboard.h"
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/PrintDialog.h"
 #include "plot/CurvePlot.h"
@@ -45,9 +45,6 @@ constexpr int kYLines = 14789;
 
 // Point marks made in this dialog are those of view 1.
 constexpr unsigned short kMarkLayer = 1;
-// The colour the dialog's face is erased with under a copied plot.
-constexpr COLORREF kDialogFace = 0xF0F0F0;
-
 constexpr const char* kNoContext = "Error getting DC. Too many commands?";
 
 // A listed value as the user reads it, by the unit kind of its axis; kinds the listing does
@@ -383,53 +380,10 @@ template <class Kind> void CurveDisplay<Kind>::OnBnClickedThecurvePrint() {
 }
 
 template <class Kind> void CurveDisplay<Kind>::OnBnClickedThecurveCopy() {
-    CDC* dc = m_plot.GetDC();
-    if (dc == nullptr) {
-        AfxMessageBox(kNoContext);
-        return;
-    }
-    // The clipboard is closed again after any failure once it was opened, so that a later
-    // copy finds it free.
-    const auto fail = [&](const char* message, bool close) {
-        AfxMessageBox(message);
-        if (close) {
-            CloseClipboard();
-        }
-        m_plot.ReleaseDC(dc);
-    };
-    CDC memory;
-    if (!memory.CreateCompatibleDC(dc)) {
-        fail("Failed creation of compatible DC", false);
-        return;
-    }
-    CRect client;
-    m_plot.GetClientRect(&client);
-    CBitmap bitmap;
-    if (!bitmap.CreateCompatibleBitmap(dc, client.Width(), client.Height())) {
-        fail("Failed creation of compatible bitmap", false);
-        return;
-    }
-    CBitmap* previous = memory.SelectObject(&bitmap);
-    memory.FillSolidRect(&client, kDialogFace);
-    DrawTheCurve(&memory);
-    memory.SelectObject(previous);
-    if (!OpenClipboard(this)) {
-        fail("Failed to open Clipboard", false);
-        return;
-    }
-    if (!EmptyClipboard()) {
-        fail("Failed to empty Clipboard", true);
-        return;
-    }
-    if (SetClipboardData(CF_BITMAP, bitmap.GetSafeHandle()) == nullptr) {
-        fail("Failed to copy data to Clipboard", true);
-        return;
-    }
-    if (!CloseClipboard()) {
-        fail("Failed to close Clipboard", false);
-        return;
-    }
-    m_plot.ReleaseDC(dc);
+    // The clipboard is closed again after a failure once it was opened, so that a later copy
+    // finds it free.
+    CopyPictureToClipboard(
+        *this, m_plot, [this](CDC* dc) { DrawTheCurve(dc); }, ClipboardAfterFailure::Close);
 }
 
 template <class Kind> void CurveDisplay<Kind>::OnBnClickedThecurveTofile() {

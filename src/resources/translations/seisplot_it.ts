@@ -2,6 +2,133 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it_IT">
 <context>
+    <name>AccData</name>
+    <message>
+        <source>Accelerogram details</source>
+        <translation>Dettagli dell'accelerogramma</translation>
+    </message>
+    <message>
+        <source>Identifier</source>
+        <translation>Identificativo</translation>
+    </message>
+    <message>
+        <source>M,W (magnitude)</source>
+        <translation>M,W (magnitudo)</translation>
+    </message>
+    <message>
+        <source>M,L (magnitude)</source>
+        <translation>M,L (magnitudo)</translation>
+    </message>
+    <message>
+        <source>Epicentral distance (km)</source>
+        <translation>Distanza epicentrale (km)</translation>
+    </message>
+    <message>
+        <source>Hypocentral depth (km)</source>
+        <translation>Profondità ipocentrale (km)</translation>
+    </message>
+    <message>
+        <source>Strike (deg)</source>
+        <translation>Direzione (gradi)</translation>
+    </message>
+    <message>
+        <source>Dip (deg)</source>
+        <translation>Inclinazione (gradi)</translation>
+    </message>
+    <message>
+        <source>Rake (deg)</source>
+        <translation>Angolo di slip (gradi)</translation>
+    </message>
+    <message>
+        <source>Latitude (deg)</source>
+        <translation>Latitudine (gradi)</translation>
+    </message>
+    <message>
+        <source>Longitude (deg)</source>
+        <translation>Longitudine (gradi)</translation>
+    </message>
+    <message>
+        <source>Angle relative to WE (deg)</source>
+        <translation>Angolo rispetto a WE (gradi)</translation>
+    </message>
+    <message>
+        <source> Backazimuth angle (deg)</source>
+        <translation> Angolo di backazimuth (gradi)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Natural</source>
+        <translation>Naturale</translation>
+    </message>
+    <message>
+        <source>Synthetic</source>
+        <translation>Sintetico</translation>
+    </message>
+    <message>
+        <source>NDSHA</source>
+        <translation>NDSHA</translation>
+    </message>
+    <message>
+        <source>PSHA</source>
+        <translation>PSHA</translation>
+    </message>
+    <message>
+        <source>Z dir</source>
+        <translation>Dir. Z</translation>
+    </message>
+    <message>
+        <source>Accelerogram data</source>
+        <translation>Dati dell'accelerogramma</translation>
+    </message>
+    <message>
+        <source>Event ID</source>
+        <translation>ID dell'evento</translation>
+    </message>
+    <message>
+        <source>Event Date</source>
+        <translation>Data dell'evento</translation>
+    </message>
+    <message>
+        <source>Event Time</source>
+        <translation>Ora dell'evento</translation>
+    </message>
+    <message>
+        <source>User data</source>
+        <translation>Dati utente</translation>
+    </message>
+    <message>
+        <source>User1</source>
+        <translation>Utente1</translation>
+    </message>
+    <message>
+        <source>User2</source>
+        <translation>Utente2</translation>
+    </message>
+    <message>
+        <source>User3</source>
+        <translation>Utente3</translation>
+    </message>
+    <message>
+        <source>User4</source>
+        <translation>Utente4</translation>
+    </message>
+    <message>
+        <source>User5</source>
+        <translation>Utente5</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
     <name>CurveDisplay</name>
     <message>
         <source>Curve display</source>
@@ -395,6 +522,121 @@
     </message>
 </context>
 <context>
+    <name>GetTimeCurve</name>
+    <message>
+        <source>Function of Time</source>
+        <translation>Funzione del tempo</translation>
+    </message>
+    <message>
+        <source>Impulse</source>
+        <translation>Impulso</translation>
+    </message>
+    <message>
+        <source>T1</source>
+        <translation>T1</translation>
+    </message>
+    <message>
+        <source>dT</source>
+        <translation>dT</translation>
+    </message>
+    <message>
+        <source>V1</source>
+        <translation>V1</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Gradino</translation>
+    </message>
+    <message>
+        <source>Limited Step</source>
+        <translation>Gradino limitato</translation>
+    </message>
+    <message>
+        <source>T2</source>
+        <translation>T2</translation>
+    </message>
+    <message>
+        <source>Ramp</source>
+        <translation>Rampa</translation>
+    </message>
+    <message>
+        <source>Trapezoid</source>
+        <translation>Trapezio</translation>
+    </message>
+    <message>
+        <source>T3</source>
+        <translation>T3</translation>
+    </message>
+    <message>
+        <source>T4</source>
+        <translation>T4</translation>
+    </message>
+    <message>
+        <source>Sinus   f= (*)</source>
+        <translation>Seno    f= (*)</translation>
+    </message>
+    <message>
+        <source>T</source>
+        <translation>T</translation>
+    </message>
+    <message>
+        <source>fi</source>
+        <translation>fi</translation>
+    </message>
+    <message>
+        <source>A</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>Cosinus f=(**)</source>
+        <translation>Coseno f=(**)</translation>
+    </message>
+    <message>
+        <source>Generic</source>
+        <translation>Generica</translation>
+    </message>
+    <message>
+        <source>Add from file...</source>
+        <translation>Aggiungi da file...</translation>
+    </message>
+    <message>
+        <source>Duration: from t=t to t=</source>
+        <translation>Durata: da t=t a t=</translation>
+    </message>
+    <message>
+        <source>Update!</source>
+        <translation>Aggiorna!</translation>
+    </message>
+    <message>
+        <source>V1 is a pure number, usually 1. fi is in radians. Tj &gt; Ti   if    j &gt; i.</source>
+        <translation>V1 è un numero puro, di solito 1. fi è in radianti. Tj &gt; Ti   se    j &gt; i.</translation>
+    </message>
+    <message>
+        <source>(*)  (1+ At) sin[2pi t  /T(1+Bt)   +fi]</source>
+        <translation>(*)  (1+ At) sin[2pi t  /T(1+Bt)   +fi]</translation>
+    </message>
+    <message>
+        <source>(**)  (1+ At) cos[2pi t /T(1+Bt)   +fi]</source>
+        <translation>(**)  (1+ At) cos[2pi t /T(1+Bt)   +fi]</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copia</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
     <name>GetXY</name>
     <message>
         <source>Point coordinates</source>
@@ -407,6 +649,157 @@
     <message>
         <source>Y</source>
         <translation>Y</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>ManageAccelerograms</name>
+    <message>
+        <source>Accelerograms Management</source>
+        <translation>Gestione accelerogrammi</translation>
+    </message>
+    <message>
+        <source>All the accelerograms</source>
+        <translation>Tutti gli accelerogrammi</translation>
+    </message>
+    <message>
+        <source>Remove!</source>
+        <translation>Elimina!</translation>
+    </message>
+    <message>
+        <source>Save...</source>
+        <translation>Salva...</translation>
+    </message>
+    <message>
+        <source>Add from File...</source>
+        <translation>Aggiungi da file...</translation>
+    </message>
+    <message>
+        <source>Add from set...</source>
+        <translation>Aggiungi da archivio...</translation>
+    </message>
+    <message>
+        <source>Add many from files...</source>
+        <translation>Aggiungi molti da file...</translation>
+    </message>
+    <message>
+        <source>click to enlarge</source>
+        <translation>clic per ingrandire</translation>
+    </message>
+    <message>
+        <source>Selected accelerogram</source>
+        <translation>Accelerogramma selezionato</translation>
+    </message>
+    <message>
+        <source>PGA (g)</source>
+        <translation>PGA (g)</translation>
+    </message>
+    <message>
+        <source>Duration (s)</source>
+        <translation>Durata (s)</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Rename!</source>
+        <translation>Rinomina!</translation>
+    </message>
+    <message>
+        <source>Explanation</source>
+        <translation>Descrizione</translation>
+    </message>
+    <message>
+        <source>Update!</source>
+        <translation>Aggiorna!</translation>
+    </message>
+    <message>
+        <source>Scale factor</source>
+        <translation>Fattore di scala</translation>
+    </message>
+    <message>
+        <source>Scale!</source>
+        <translation>Scala!</translation>
+    </message>
+    <message>
+        <source>Duplicate!</source>
+        <translation>Duplica!</translation>
+    </message>
+    <message>
+        <source>Info...</source>
+        <translation>Info...</translation>
+    </message>
+    <message>
+        <source>Report...</source>
+        <translation>Relazione...</translation>
+    </message>
+    <message>
+        <source>Response spectra</source>
+        <translation>Spettri di risposta</translation>
+    </message>
+    <message>
+        <source>Last period (s)</source>
+        <translation>Ultimo periodo (s)</translation>
+    </message>
+    <message>
+        <source>Period step (s)</source>
+        <translation>Passo del periodo (s)</translation>
+    </message>
+    <message>
+        <source>Largest damping</source>
+        <translation>Smorzamento massimo</translation>
+    </message>
+    <message>
+        <source>Damping step</source>
+        <translation>Passo dello smorzamento</translation>
+    </message>
+    <message>
+        <source>Acceleration...</source>
+        <translation>Accelerazione...</translation>
+    </message>
+    <message>
+        <source>Displacement...</source>
+        <translation>Spostamento...</translation>
+    </message>
+    <message>
+        <source>ADS...</source>
+        <translation>ADS...</translation>
+    </message>
+    <message>
+        <source>Sinusoidal accelerograms with varying period  (Asin(wt))  w=2pi/T</source>
+        <translation>Accelerogrammi sinusoidali a periodo variabile  (Asin(wt))  w=2pi/T</translation>
+    </message>
+    <message>
+        <source>Number of accel</source>
+        <translation>Numero di accel.</translation>
+    </message>
+    <message>
+        <source>Period interval DT, T=i *DT</source>
+        <translation>Intervallo di periodo DT, T=i *DT</translation>
+    </message>
+    <message>
+        <source>Duration: N Periods</source>
+        <translation>Durata: N periodi</translation>
+    </message>
+    <message>
+        <source>Number of Points/Period</source>
+        <translation>Numero di punti/periodo</translation>
+    </message>
+    <message>
+        <source>A=PGA(g)</source>
+        <translation>A=PGA(g)</translation>
+    </message>
+    <message>
+        <source>Add!</source>
+        <translation>Aggiungi!</translation>
     </message>
     <message>
         <source>OK</source>
