@@ -18,6 +18,9 @@
 
 #include <cstdint>
 
+class AccelerogramColl;
+class Units;
+
 class SpectrumColl : public CObject {
 public:
     // Raised by operator[] (thrown by value, caught by reference) for an index at or beyond
@@ -95,6 +98,17 @@ public:
     // file's content.
     int WriteToFile(CString& path);
     int ReadFromFile(CString& path);
+
+    // The two dialogs on the spectra, provided by the dialogs layer (seisplot::dialogs): a
+    // program that calls them links that layer, which the compute core does not need.
+    // The spectrum editor on a copy: on OK the spectra become the copy, every spectrum is
+    // unselected in view 1 and the one picked in the editor selected; 0. On Cancel, 1.
+    int GetData(Units* units);
+    // The envelope spectrum dialog on `records` (edited in place), the structure's nModes
+    // modes (`periods`, and X, Y, Z participation fractions per mode in `shares`) and a copy
+    // of the spectra, which the spectra become on OK (0); on Cancel nothing changes (1).
+    int GetData(AccelerogramColl* records, unsigned long nModes, double* periods, double* shares,
+                Units* units);
 
     static CRuntimeClass classSpectrumColl;
 

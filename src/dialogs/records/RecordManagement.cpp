@@ -1,13 +1,13 @@
 #include "dialogs/records/RecordManagement.h"
 
+#include "dialogs/CurvePreview.h"
+#include "dialogs/ListExtent.h"
 #include "dialogs/TextViewer.h"
 #include "dialogs/curves/CurveDisplay.h"
 #include "dialogs/records/RecordDetails.h"
-#include "draw/gdi/Areas.h"
 #include "platform/core/CFileDialog.h"
 #include "platform/core/StringTable.h"
 #include "platform/ui/DataExchange.h"
-#include "plot/CurvePlot.h"
 #include "records/AccelerogramColl.h"
 #include "records/RecordReport.h"
 #include "records/Sinusoids.h"
@@ -58,7 +58,6 @@ constexpr UINT kSameName = 14841;
 constexpr UINT kSureToRemove = 14842;
 constexpr UINT kAllOrOne = 14843;
 
-constexpr const char* kNoContext = "Error getting DC. Too many commands?";
 constexpr const char* kArchiveFilter = "Accelerograms ACC (*.acc)|*.acc||";
 constexpr DWORD kFileFlags = OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT;
 
@@ -145,23 +144,15 @@ void ManageAccelerograms::Refresh(std::optional<int> select) {
         m_preview.Invalidate();
         return;
     }
-    CDC* dc = m_list.GetDC();
-    if (dc == nullptr) {
-        AfxMessageBox(kNoContext);
-        return;
-    }
-    int widest = 0;
     for (unsigned long i = 1; i <= count; ++i) {
         CString line;
         line.Format("%5ld - ", static_cast<long>(i));
         line += Records->GetP(i)->GetIdentifier();
         m_list.AddString(line);
-        widest = std::max(widest, static_cast<int>(dc->GetTextExtent(line).cx));
     }
-    TEXTMETRICA metrics;
-    dc->GetTextMetrics(&metrics);
-    m_list.ReleaseDC(dc);
-    m_list.SetHorizontalExtent(widest + static_cast<int>(metrics.tmAveCharWidth));
+    if (!seisplot::FitListExtent(m_list)) {
+        return;
+    }
     const int line = remembered == LB_ERR ? 0 : std::min(remembered, static_cast<int>(count) - 1);
     m_list.SetCurSel(line);
     const Accelerogram& record = *Records->GetP(static_cast<unsigned long>(line) + 1);
@@ -203,40 +194,19 @@ void ManageAccelerograms::OnDrawItem(int id, LPDRAWITEMSTRUCT drawItem) {
     if (id != kPreview) {
         return;
     }
-    if (drawItem->hDC == nullptr) {
-        AfxMessageBox(kNoContext);
-        return;
-    }
-    DrawPreview(drawItem->hDC);
-}
-
-void ManageAccelerograms::DrawPreview(CDC* dc) {
-    CRect area;
-    m_preview.GetClientRect(&area);
     Accelerogram* record = nullptr;
-    if (!Selected(record, false)) {
-        // No record to show: a white area, outlined when the set is empty.
-        rectangle(dc, 0xFFFFFF, 2, area.left, area.top, area.right, area.bottom);
-        if (Records == nullptr || Records->GetAccelerogramNum() == 0) {
-            rectangle(dc, 0, 1, area.left, area.top, area.right, area.bottom);
-        }
-        return;
-    }
-    SFont title, axis, labels;
-    DrawCurve(&record->Record, &m_preview, dc, 1, UnitSystem, title, axis, labels, 1, 0, 0, 0,
-              0x0000FF, 1, 0, 0, 0.0, 0.0);
+    Selected(record, false);
+    // Without a record to show, a white area, outlined when the set is empty.
+    seisplot::DrawCurvePreview(drawItem->hDC, m_preview,
+                               record != nullptr ? &record->Record : nullptr, UnitSystem, 0x0000FF,
+                               Records == nullptr || Records->GetAccelerogramNum() == 0);
 }
 
 void ManageAccelerograms::OnBnClickedAccelPreview() {
     Accelerogram* record = nullptr;
-    if (!Selected(record, false)) {
-        return;
+    if (Selected(record, false)) {
+        seisplot::ShowCurveEnlarged(this, record->Record, record->GetIdentifier(), UnitSystem);
     }
-    PrintPCurve display(this);
-    display.UnitSystem = UnitSystem;
-    display.Coll.AddPCurve(record->Record);
-    display.Path = record->GetIdentifier();
-    display.DoModal();
 }
 
 void ManageAccelerograms::OnBnClickedAccelRemove() {

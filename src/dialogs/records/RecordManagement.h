@@ -88,5 +88,4 @@ private:
     bool Selected(class Accelerogram*& record, bool read);
     // Whether a record with `identifier` is in the set (letter case counts); says so if it is.
     bool Clashes(const CString& identifier);
-    void DrawPreview(CDC* dc);
 };

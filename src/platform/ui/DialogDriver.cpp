@@ -60,6 +60,12 @@ void PrepareApplicationEnvironment() {
     PrepareQtEnvironment();
 }
 
+void ProcessPendingEvents() {
+    if (QCoreApplication::instance() != nullptr) {
+        QCoreApplication::processEvents();
+    }
+}
+
 bool EnsureWidgetApplication() {
     SetApplicationMaker(&MakeWidgetApplication);
     EnsureGuiApplication();

@@ -45,6 +45,10 @@ public:
 // display, a private runtime folder. Call it before making the QApplication.
 void PrepareApplicationEnvironment();
 
+// Lets the windows on screen repaint and hear the user while long work goes on in a handler
+// (a click on Cancel then reaches CDialog::CancelRequested). Nothing without an application.
+void ProcessPendingEvents();
+
 // Dialogs are widgets and need a QApplication: this makes one when the process has no Qt
 // application yet (on the offscreen platform without a display). False when the process
 // already runs another kind of Qt application, which cannot show widgets.

@@ -5,7 +5,7 @@
     <name>AccData</name>
     <message>
         <source>Accelerogram details</source>
-        <translation>Dettagli dell'accelerogramma</translation>
+        <translation>Dettagli dell&apos;accelerogramma</translation>
     </message>
     <message>
         <source>Identifier</source>
@@ -81,19 +81,19 @@
     </message>
     <message>
         <source>Accelerogram data</source>
-        <translation>Dati dell'accelerogramma</translation>
+        <translation>Dati dell&apos;accelerogramma</translation>
     </message>
     <message>
         <source>Event ID</source>
-        <translation>ID dell'evento</translation>
+        <translation>ID dell&apos;evento</translation>
     </message>
     <message>
         <source>Event Date</source>
-        <translation>Data dell'evento</translation>
+        <translation>Data dell&apos;evento</translation>
     </message>
     <message>
         <source>Event Time</source>
-        <translation>Ora dell'evento</translation>
+        <translation>Ora dell&apos;evento</translation>
     </message>
     <message>
         <source>User data</source>
@@ -364,6 +364,49 @@
     <message>
         <source>B=B(A)!</source>
         <translation>B=B(A)!</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>EditSpectra</name>
+    <message>
+        <source>Spectra management</source>
+        <translation>Gestione spettri</translation>
+    </message>
+    <message>
+        <source>click to enlarge</source>
+        <translation>clic per ingrandire</translation>
+    </message>
+    <message>
+        <source>behavior factor</source>
+        <translation>fattore di struttura</translation>
+    </message>
+    <message>
+        <source>critical damping</source>
+        <translation>smorzamento critico</translation>
+    </message>
+    <message>
+        <source>Explanation</source>
+        <translation>Descrizione</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aggiorna</translation>
+    </message>
+    <message>
+        <source>Scale factor</source>
+        <translation>Fattore di scala</translation>
+    </message>
+    <message>
+        <source>Apply!</source>
+        <translation>Applica!</translation>
     </message>
     <message>
         <source>OK</source>
@@ -800,6 +843,165 @@
     <message>
         <source>Add!</source>
         <translation>Aggiungi!</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>ManageSpectra</name>
+    <message>
+        <source>Envelope spectrum</source>
+        <translation>Spettro di inviluppo</translation>
+    </message>
+    <message>
+        <source>Accelerograms</source>
+        <translation>Accelerogrammi</translation>
+    </message>
+    <message>
+        <source>All!</source>
+        <translation>Tutti!</translation>
+    </message>
+    <message>
+        <source>None!</source>
+        <translation>Nessuno!</translation>
+    </message>
+    <message>
+        <source>1, 4, 7, ....</source>
+        <translation>1, 4, 7, ....</translation>
+    </message>
+    <message>
+        <source>2, 5, 8, ....</source>
+        <translation>2, 5, 8, ....</translation>
+    </message>
+    <message>
+        <source>3, 6, 9, ....</source>
+        <translation>3, 6, 9, ....</translation>
+    </message>
+    <message>
+        <source> 1,2, 4,5, 7,8...</source>
+        <translation> 1,2, 4,5, 7,8...</translation>
+    </message>
+    <message>
+        <source>PGA (g)</source>
+        <translation>PGA (g)</translation>
+    </message>
+    <message>
+        <source>Duration (s)</source>
+        <translation>Durata (s)</translation>
+    </message>
+    <message>
+        <source>Info...</source>
+        <translation>Info...</translation>
+    </message>
+    <message>
+        <source>Modes</source>
+        <translation>Modi</translation>
+    </message>
+    <message>
+        <source>Periods</source>
+        <translation>Periodi</translation>
+    </message>
+    <message>
+        <source>Use only the selected natural periods of the structure</source>
+        <translation>Usa solo i periodi propri selezionati della struttura</translation>
+    </message>
+    <message>
+        <source>Use all periods up to</source>
+        <translation>Usa tutti i periodi fino a</translation>
+    </message>
+    <message>
+        <source>seconds with step</source>
+        <translation>secondi con passo</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>secondi</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>Inviluppo</translation>
+    </message>
+    <message>
+        <source>Complete envelope</source>
+        <translation>Inviluppo completo</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Usa</translation>
+    </message>
+    <message>
+        <source>percentile</source>
+        <translation>percentile</translation>
+    </message>
+    <message>
+        <source>(using a percentile does not imply any probability)</source>
+        <translation>(l'uso di un percentile non implica alcuna probabilità)</translation>
+    </message>
+    <message>
+        <source>Signals</source>
+        <translation>Segnali</translation>
+    </message>
+    <message>
+        <source>Critical damping</source>
+        <translation>Smorzamento critico</translation>
+    </message>
+    <message>
+        <source>Generate and add to list!</source>
+        <translation>Genera e aggiungi alla lista!</translation>
+    </message>
+    <message>
+        <source>Track last run...</source>
+        <translation>Traccia dell'ultimo calcolo...</translation>
+    </message>
+    <message>
+        <source>click to enlarge</source>
+        <translation>clic per ingrandire</translation>
+    </message>
+    <message>
+        <source>Spectra</source>
+        <translation>Spettri</translation>
+    </message>
+    <message>
+        <source>Peak (g)</source>
+        <translation>Picco (g)</translation>
+    </message>
+    <message>
+        <source>Period of the peak (s)</source>
+        <translation>Periodo del picco (s)</translation>
+    </message>
+    <message>
+        <source>Damping</source>
+        <translation>Smorzamento</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Change name!</source>
+        <translation>Cambia nome!</translation>
+    </message>
+    <message>
+        <source>EC8 soil classes</source>
+        <translation>Classi di suolo EC8</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Remove all!</source>
+        <translation>Elimina tutti!</translation>
+    </message>
+    <message>
+        <source>Report...</source>
+        <translation>Relazione...</translation>
     </message>
     <message>
         <source>OK</source>
