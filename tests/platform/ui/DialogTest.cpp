@@ -16,6 +16,7 @@
 
 #include <QAbstractButton>
 #include <QClipboard>
+#include <QFontMetrics>
 #include <QGuiApplication>
 #include <QImage>
 
@@ -335,6 +336,28 @@ TEST_F(Scripted, ABitmapButtonIsItsUpBitmapAndItsDownOneWhileHeld) {
         button->setDown(false);
         d.Click(9116);
         EXPECT_EQ(probe.bitmapClicks, 1);
+        d.Ok();
+    });
+    probe.DoModal();
+}
+
+TEST_F(Scripted, AMultiLineButtonWrapsItsCaptionAndIsTallEnoughForIt) {
+    Probe probe;
+    dialogs.Expect(9001, [&](DialogHandle& d) {
+        const CString caption =
+            "Regular polygon having center in (A, B), radius equal to C, number "
+            "of sides equal to D, angle over horizontal of first vertex equal "
+            "to E (degrees)";
+        EXPECT_EQ(d.Text(9117), caption);
+        QWidget* button = d.Dialog().Window()->Control(9117);
+        ASSERT_NE(button, nullptr);
+        const QFontMetrics metrics = button->fontMetrics();
+        const QString text = QString::fromUtf8(caption.GetString());
+        EXPECT_LT(button->width(), metrics.horizontalAdvance(text)); // it wraps
+        const QRect wrapped =
+            metrics.boundingRect(QRect(0, 0, button->width(), 1000), Qt::TextWordWrap, text);
+        EXPECT_GE(wrapped.height(), 2 * metrics.height());
+        EXPECT_GE(button->height(), wrapped.height()); // every line shows
         d.Ok();
     });
     probe.DoModal();
