@@ -71,3 +71,7 @@
 
 // Curve plots
 #include "plot/CurvePlot.h"
+
+// The library's dialogs
+#include "dialogs/polygon/GetPolygon.h"
+#include "dialogs/polygon/PolygonVertices.h"
