@@ -30,4 +30,10 @@ shot() {
     done
 }
 shot studio-arc-dialog addArc --select Records/2
+# A T-shaped section in the polygon dialog, and its preset shapes over it.
+section="0,0 30,0 30,60 60,60 60,70 -30,70 -30,60 0,60"
+shot studio-polygon-dialog polygonInput --polygon "$section" --select Polygon
+shot studio-special-polygons polygonInput --polygon "$section" --select Polygon --dialog-click 14614
+"$studio" "$project" --polygon "$section" --select Polygon --screenshot docs/studio-polygon-view.png \
+    --quit
 echo "docs-screenshots: written to docs/"

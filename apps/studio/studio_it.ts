@@ -31,10 +31,6 @@
         <translation>&amp;Esci</translation>
     </message>
     <message>
-        <source>&amp;Geometry</source>
-        <translation>&amp;Geometria</translation>
-    </message>
-    <message>
         <source>Add &amp;point...</source>
         <translation>Aggiungi &amp;punto...</translation>
     </message>
@@ -157,6 +153,22 @@
     <message>
         <source>&lt;b&gt;seisplot studio&lt;/b&gt;&lt;p&gt;%1&lt;/p&gt;&lt;p&gt;The desktop application that holds a project of records, spectra, curves and a polygon, and opens the library's dialogs on it.&lt;/p&gt;</source>
         <translation>&lt;b&gt;seisplot studio&lt;/b&gt;&lt;p&gt;%1&lt;/p&gt;&lt;p&gt;L'applicazione desktop che contiene un progetto di registrazioni, spettri, curve e un poligono, e vi apre le finestre di dialogo della libreria.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&amp;Polygon</source>
+        <translation>&amp;Poligono</translation>
+    </message>
+    <message>
+        <source>Closed polygon &amp;input...</source>
+        <translation>&amp;Inserimento del poligono chiuso...</translation>
+    </message>
+    <message>
+        <source>A vertical side has no dx.</source>
+        <translation>Un lato verticale non ha dx.</translation>
+    </message>
+    <message>
+        <source>A horizontal side has no dy.</source>
+        <translation>Un lato orizzontale non ha dy.</translation>
     </message>
 </context>
 </TS>
