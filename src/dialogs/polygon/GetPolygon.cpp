@@ -2,9 +2,9 @@
 
 #include "dialogs/polygon/GetSpecialPoly_p.h"
 #include "dialogs/polygon/PolygonVertices.h"
+#include "dialogs/polygon/SideCrossing.h"
 #include "draw/gdi/Areas.h"
 #include "draw/gdi/DeviceConventions.h"
-#include "host/Intersect.h"
 #include "host/dialogs/CoordinateDialogs.h"
 #include "platform/ui/DataExchange.h"
 
@@ -243,21 +243,12 @@ void GetPolygon::OnXxspecialpoly() {
 }
 
 void GetPolygon::OnOK() {
-    const int count = Poly.GetNPoint();
-    if (count <= 2) {
+    if (Poly.GetNPoint() <= 2) {
         return;
     }
-    // Side i runs from vertex i to the next, side `count` back to vertex 1. Adjacent sides
-    // share a vertex, which does not count as crossing.
-    const auto start = [this](int side) { return Poly.GetPoint(side); };
-    const auto end = [this, count](int side) { return Poly.GetPoint(side % count + 1); };
-    for (int i = 1; i <= count; ++i) {
-        for (int j = i + 1; j <= count; ++j) {
-            if (Intersect(start(i), end(i), start(j), end(j)) == 1) {
-                AfxMessageBox("Sides must not intersect");
-                return;
-            }
-        }
+    if (seisplot::SidesCross(Poly)) {
+        AfxMessageBox("Sides must not intersect");
+        return;
     }
     EndDialog(IDOK);
 }

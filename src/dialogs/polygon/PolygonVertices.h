@@ -34,7 +34,7 @@ enum class PresetShape { Rectangle = 10, Circle = 11, HalfCircle = 12, RegularPo
 //   whole d the last point is the first again, exactly);
 // - half circle: as the circle, from e to e + 180° inclusive;
 // - regular polygon: radius c, n = trunc(d) distinct vertices, the first at angle e.
-// d must be below 2^31 in size.
+// trunc(d) must fit an int.
 void AppendPresetShape(RPoly& poly, PresetShape shape, double a, double b, double c, double d,
                        double e);
 
