@@ -198,6 +198,7 @@ int main(int argc, char** argv) {
     }
     QGuiApplication app(argc, argv);
     const QDir outdir(QString::fromLocal8Bit(argv[1]));
+    outdir.mkpath(QStringLiteral("."));
     int failures = 0;
     for (const Picture& picture : kPictures) {
         for (const bool pressed : {false, true}) {
