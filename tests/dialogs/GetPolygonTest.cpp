@@ -3,9 +3,8 @@
 // removing vertices, the crossing test on OK, the preview and the messages.
 
 #include "dialogs/polygon/GetPolygon.h"
+#include "DialogFixture.h"
 #include "host/dialogs/CoordinateDialogs.h"
-#include "platform/core/ScriptedUserInterface.h"
-#include "platform/ui/ScriptedDialogs.h"
 
 #include <gtest/gtest.h>
 
@@ -68,15 +67,9 @@ RPoly PolygonOf(const Vertices& vertices) {
     return poly;
 }
 
-struct PolygonDialog : testing::Test {
-    seisplot::ScriptedUserInterface ui;
-    seisplot::ScopedUserInterface uiScope{ui};
-    seisplot::ScriptedDialogs dialogs;
-    seisplot::ScopedDialogDriver driverScope{dialogs};
-
+struct PolygonDialog : seisplot::test::DialogFixture {
     void TearDown() override {
-        EXPECT_TRUE(dialogs.Problems().empty()) << dialogs.Problems().front();
-        EXPECT_EQ(dialogs.Pending(), 0u);
+        DialogFixture::TearDown();
         ::unsetenv("SEISPLOT_LANG");
     }
 
