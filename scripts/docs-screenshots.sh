@@ -41,4 +41,10 @@ shot curve-mixing mixCurves --select Curves/1
 shot record-management manageRecords --select Records/1
 shot record-details recordDetails --select Records/1
 shot time-function timeFunction
+# A T-shaped section in the polygon dialog, and its preset shapes over it.
+section="0,0 30,0 30,60 60,60 60,70 -30,70 -30,60 0,60"
+shot studio-polygon-dialog polygonInput --polygon "$section" --select Polygon
+shot studio-special-polygons polygonInput --polygon "$section" --select Polygon --dialog-click 14614
+"$studio" "$project" --polygon "$section" --select Polygon --screenshot docs/studio-polygon-view.png \
+    --quit
 echo "docs-screenshots: written to docs/"

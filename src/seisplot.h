@@ -76,3 +76,5 @@
 // The library's dialogs
 #include "dialogs/curves/CurveDisplay.h"
 #include "dialogs/curves/CurveMixing.h"
+#include "dialogs/polygon/GetPolygon.h"
+#include "dialogs/polygon/PolygonVertices.h"

@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTextStream>
 #include <QTimer>
 #include <QWindow>
@@ -43,16 +44,52 @@ void WaitUntilShown(QWidget* widget) {
     QCoreApplication::processEvents();
 }
 
+// "x,y x,y ..." (or separated by semicolons) as the project's polygon.
+bool SetPolygon(MainWindow& window, const QString& vertices) {
+    RPoly polygon;
+    for (const QString& vertex :
+         vertices.split(QRegularExpression("[\\s;]+"), Qt::SkipEmptyParts)) {
+        const QStringList xy = vertex.split(',');
+        bool xRead = false;
+        bool yRead = false;
+        const double x = xy.value(0).toDouble(&xRead);
+        const double y = xy.value(1).toDouble(&yRead);
+        if (xy.size() != 2 || !xRead || !yRead) {
+            return false;
+        }
+        polygon.AddPoint(x, y);
+    }
+    window.CurrentProject().polygon = polygon;
+    window.Refresh();
+    return true;
+}
+
 } // namespace
 
 bool DialogWitness::eventFilter(QObject* watched, QEvent* event) {
     auto* dialog = qobject_cast<QDialog*>(watched);
     if (!m_seen && event->type() == QEvent::Show && dialog != nullptr && dialog->isWindow()) {
-        m_seen = true;
         // After the dialog has shown itself: Show comes before its first paint.
-        QTimer::singleShot(0, dialog, [this, dialog] { Witness(dialog); });
+        if (m_click != 0 && !m_pressed) {
+            m_pressed = true;
+            QTimer::singleShot(0, dialog, [this, dialog] { Press(dialog); });
+        } else {
+            m_seen = true;
+            QTimer::singleShot(0, dialog, [this, dialog] { Witness(dialog); });
+        }
     }
     return QObject::eventFilter(watched, event);
+}
+
+void DialogWitness::Press(QDialog* dialog) {
+    WaitUntilShown(dialog);
+    for (auto* button : dialog->findChildren<QAbstractButton*>()) {
+        if (button->property("controlId").toInt() == m_click) {
+            button->click(); // returns once the dialog it opens has been witnessed
+            break;
+        }
+    }
+    dialog->reject();
 }
 
 void DialogWitness::Witness(QDialog* dialog) {
@@ -95,6 +132,9 @@ bool RunSteps(MainWindow& window, const AutomationSteps& steps) {
     if (!steps.imports.isEmpty() && !window.ImportRecords(steps.imports)) {
         return Fail("cannot import " + steps.imports.join(' '));
     }
+    if (!steps.polygon.isEmpty() && !SetPolygon(window, steps.polygon)) {
+        return Fail("not a polygon: " + steps.polygon);
+    }
     if (!steps.select.isEmpty() && !window.SelectItem(steps.select)) {
         return Fail("no item " + steps.select + " in the project");
     }
@@ -119,7 +159,7 @@ bool RunSteps(MainWindow& window, const AutomationSteps& steps) {
         if (action == nullptr) {
             return Fail("no menu action " + steps.dialogAction);
         }
-        DialogWitness witness(steps.dialogReport, steps.dialogShot);
+        DialogWitness witness(steps.dialogReport, steps.dialogShot, steps.dialogClick);
         qApp->installEventFilter(&witness);
         action->trigger();
         qApp->removeEventFilter(&witness);

@@ -1,7 +1,7 @@
 #pragma once
 // Steps the studio runs by itself when asked on the command line: what its tests and the
-// screenshots of the documentation need (open, import, save, select, open a dialog through
-// its menu, describe and photograph the dialog, quit).
+// screenshots of the documentation need (open, import, set the polygon, save, select, open a
+// dialog through its menu, press a button in it, describe and photograph the dialog, quit).
 
 #include <QObject>
 #include <QString>
@@ -16,11 +16,13 @@ class MainWindow;
 struct AutomationSteps {
     QString project;      // open this project
     QStringList imports;  // then import these record files
+    QString polygon;      // then make these vertices the polygon: "x,y x,y ..."
     QString select;       // then select this item of the side panel
     QStringList actions;  // then trigger these menu actions, which open no dialog
     QString saveAs;       // then save the project here
     QString windowShot;   // then photograph the main window
     QString dialogAction; // then trigger this menu action...
+    int dialogClick = 0;  // ...click this control of its dialog, and take the one it opens...
     QString dialogReport; // ...describe the dialog it opens in this text file...
     QString dialogShot;   // ...photograph the screen with it (import -window root)
     bool quit = false;    // and end, instead of waiting for the user
@@ -30,19 +32,24 @@ struct AutomationSteps {
 // when one fails.
 bool RunSteps(MainWindow& window, const AutomationSteps& steps);
 
-// Describes and photographs the next dialog that shows, then cancels it.
+// Describes and photographs the next dialog that shows, then cancels it. With a control to
+// click, the first dialog only has that control clicked; the dialog that opens then is the
+// one witnessed, and the first is cancelled after it.
 class DialogWitness : public QObject {
 public:
-    DialogWitness(QString report, QString shot)
-        : m_report(std::move(report)), m_shot(std::move(shot)) {}
+    DialogWitness(QString report, QString shot, int click)
+        : m_report(std::move(report)), m_shot(std::move(shot)), m_click(click) {}
     bool eventFilter(QObject* watched, QEvent* event) override;
     bool Seen() const { return m_seen; }
 
 private:
+    void Press(QDialog* dialog);
     void Witness(QDialog* dialog);
 
     QString m_report;
     QString m_shot;
+    int m_click;
+    bool m_pressed = false;
     bool m_seen = false;
 };
 

@@ -1,8 +1,9 @@
 #include "MainWindow.h"
 
-#include "PolygonSides.h"
 #include "dialogs/curves/CurveDisplay.h"
 #include "dialogs/curves/CurveMixing.h"
+#include "dialogs/polygon/GetPolygon.h"
+#include "dialogs/polygon/PolygonVertices.h"
 #include "dialogs/records/RecordDetails.h"
 #include "dialogs/records/TimeFunction.h"
 #include "host/dialogs/CoordinateDialogs.h"
@@ -44,6 +45,15 @@ void Child(QTreeWidgetItem* group, const QString& name, int number, const QStrin
     item->setData(0, kPathRole, QStringLiteral("%1/%2").arg(name).arg(number));
 }
 
+// A side needs a vertex to start from; without one the user is told to give it first.
+bool HasFirstPoint(const RPoly& polygon) {
+    if (polygon.GetNPoint() > 0) {
+        return true;
+    }
+    AfxMessageBox("Enter first point coordinates");
+    return false;
+}
+
 } // namespace
 
 MainWindow::MainWindow() : m_panel(new QTreeWidget), m_view(new PlotView) {
@@ -83,7 +93,9 @@ void MainWindow::BuildMenus() {
     add(
         file, "quit", tr("&Quit"), [] { QApplication::quit(); }, QKeySequence::Quit);
 
-    QMenu* geometry = menuBar()->addMenu(tr("&Geometry"));
+    QMenu* geometry = menuBar()->addMenu(tr("&Polygon"));
+    add(geometry, "polygonInput", tr("Closed polygon &input..."), [this] { EditPolygon(); });
+    geometry->addSeparator();
     add(geometry, "addPoint", tr("Add &point..."), [this] { AddPoint(); });
     add(geometry, "addSideDxDy", tr("Add side by &projections..."),
         [this] { AddSideByProjections(); });
@@ -283,6 +295,16 @@ bool MainWindow::ImportRecords(const QStringList& paths) {
     return true;
 }
 
+void MainWindow::EditPolygon() {
+    GetPolygon dialog;
+    dialog.Poly = m_project.polygon;
+    if (dialog.DoModal() == IDOK) {
+        m_project.polygon = dialog.Poly;
+        SelectItem("Polygon");
+        Refresh();
+    }
+}
+
 void MainWindow::AddPoint() {
     GetXY dialog;
     if (dialog.DoModal() == IDOK) {
@@ -292,55 +314,53 @@ void MainWindow::AddPoint() {
     }
 }
 
+void MainWindow::AddVertex(const RPoint2D& vertex) {
+    m_project.polygon.AddPoint(vertex);
+    Refresh();
+}
+
 void MainWindow::AddSideByProjections() {
-    if (!HasFirstPoint(m_project.polygon)) {
-        return;
-    }
     GetDxDy dialog;
-    if (dialog.DoModal() == IDOK) {
-        AddSide(m_project.polygon, dialog.DX, dialog.DY);
-        Refresh();
+    if (HasFirstPoint(m_project.polygon) && dialog.DoModal() == IDOK) {
+        AddVertex(SideByProjections(m_project.polygon.GetLastPoint(), dialog.DX, dialog.DY));
     }
 }
 
 void MainWindow::AddSideByAngleAndLength() {
-    if (!HasFirstPoint(m_project.polygon)) {
-        return;
-    }
     GetAnDi dialog;
-    if (dialog.DoModal() == IDOK) {
-        AddSide(m_project.polygon, SideByAngleAndLength(dialog.Angle, dialog.Distance));
-        Refresh();
+    if (HasFirstPoint(m_project.polygon) && dialog.DoModal() == IDOK) {
+        AddVertex(
+            SideByAngleAndLength(m_project.polygon.GetLastPoint(), dialog.Angle, dialog.Distance));
     }
 }
 
 void MainWindow::AddSideByAngleAndDx() {
-    if (!HasFirstPoint(m_project.polygon)) {
-        return;
-    }
     GetAnDx dialog;
-    if (dialog.DoModal() == IDOK) {
-        AddSide(m_project.polygon, SideByAngleAndDx(dialog.Angle, dialog.DX));
-        Refresh();
+    if (HasFirstPoint(m_project.polygon) && dialog.DoModal() == IDOK) {
+        if (!AngleAllowsDx(dialog.Angle)) {
+            AfxMessageBox(tr("A vertical side has no dx.").toUtf8());
+            return;
+        }
+        AddVertex(SideByAngleAndDx(m_project.polygon.GetLastPoint(), dialog.Angle, dialog.DX));
     }
 }
 
 void MainWindow::AddSideByAngleAndDy() {
-    if (!HasFirstPoint(m_project.polygon)) {
-        return;
-    }
     GetAnDy dialog;
-    if (dialog.DoModal() == IDOK) {
-        AddSide(m_project.polygon, SideByAngleAndDy(dialog.Angle, dialog.DY));
-        Refresh();
+    if (HasFirstPoint(m_project.polygon) && dialog.DoModal() == IDOK) {
+        if (!AngleAllowsDy(dialog.Angle)) {
+            AfxMessageBox(tr("A horizontal side has no dy.").toUtf8());
+            return;
+        }
+        AddVertex(SideByAngleAndDy(m_project.polygon.GetLastPoint(), dialog.Angle, dialog.DY));
     }
 }
 
 void MainWindow::AddArc() {
     GetArc1 dialog;
     if (dialog.DoModal() == IDOK) {
-        AddArcVertices(m_project.polygon, dialog.CX, dialog.CY, dialog.Radius, dialog.Angle1,
-                       dialog.Angle2, dialog.Segments);
+        AppendArc(m_project.polygon, dialog.CX, dialog.CY, dialog.Radius, dialog.Angle1,
+                  dialog.Angle2, dialog.Segments);
         SelectItem("Polygon");
         Refresh();
     }

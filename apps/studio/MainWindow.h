@@ -39,13 +39,15 @@ private:
     void Save();
     void SaveAs();
     void ImportRecordFiles();
-    // Geometry menu: the polygon built with the geometry library's dialogs
+    // Polygon menu: the library's polygon dialog, and the geometry library's dialogs one by one
+    void EditPolygon();
     void AddPoint();
     void AddSideByProjections();
     void AddSideByAngleAndLength();
     void AddSideByAngleAndDx();
     void AddSideByAngleAndDy();
     void AddArc();
+    void AddVertex(const RPoint2D& vertex);
     void ClearPolygon();
     // Records menu: the record management dialog on the project's records, and the function
     // of time added to the project's curves

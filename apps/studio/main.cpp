@@ -59,6 +59,7 @@ int main(int argc, char** argv) {
     parser.addPositionalArgument("project", "A project file (*.spj) to open.", "[project]");
     const QCommandLineOption language({"l", "language"}, "Texts in English or Italian.", "en|it");
     const QCommandLineOption import("import", "Import an ITACA record file (repeatable).", "file");
+    const QCommandLineOption polygon("polygon", "Make these vertices the polygon.", "x,y x,y ...");
     const QCommandLineOption select("select", "Select an item: Records/2, Polygon, ...", "item");
     const QCommandLineOption action(
         "action", "Trigger a menu action that opens no dialog (repeatable): copyToCurves, ...",
@@ -66,14 +67,17 @@ int main(int argc, char** argv) {
     const QCommandLineOption saveAs("save-as", "Save the project to this file.", "file");
     const QCommandLineOption shot("screenshot", "Write a picture of the main window.", "png");
     const QCommandLineOption dialog(
-        "open-dialog", "Open the dialog of a menu action (addPoint, addArc, ...).", "action");
+        "open-dialog", "Open the dialog of a menu action (polygonInput, addPoint, ...).", "action");
+    const QCommandLineOption click(
+        "dialog-click", "Click this control of that dialog; the dialog it opens is the one taken.",
+        "id");
     const QCommandLineOption report("dialog-report", "Describe that dialog in a text file.",
                                     "file");
     const QCommandLineOption dialogShot("dialog-screenshot",
                                         "Photograph the screen with that dialog shown.", "png");
     const QCommandLineOption quit("quit", "End after the steps above instead of staying open.");
-    parser.addOptions(
-        {language, import, select, action, saveAs, shot, dialog, report, dialogShot, quit});
+    parser.addOptions({language, import, polygon, select, action, saveAs, shot, dialog, click,
+                       report, dialogShot, quit});
     parser.process(app);
     if (parser.isSet(language)) {
         qputenv("SEISPLOT_LANG", parser.value(language).toLatin1());
@@ -96,11 +100,13 @@ int main(int argc, char** argv) {
     seisplot::studio::AutomationSteps steps;
     steps.project = parser.positionalArguments().value(0);
     steps.imports = parser.values(import);
+    steps.polygon = parser.value(polygon);
     steps.select = parser.value(select);
     steps.actions = parser.values(action);
     steps.saveAs = parser.value(saveAs);
     steps.windowShot = parser.value(shot);
     steps.dialogAction = parser.value(dialog);
+    steps.dialogClick = parser.value(click).toInt();
     steps.dialogReport = parser.value(report);
     steps.dialogShot = parser.value(dialogShot);
     steps.quit = parser.isSet(quit);

@@ -32,10 +32,6 @@
         <translation>&amp;Esci</translation>
     </message>
     <message>
-        <source>&amp;Geometry</source>
-        <translation>&amp;Geometria</translation>
-    </message>
-    <message>
         <source>Add &amp;point...</source>
         <translation>Aggiungi &amp;punto...</translation>
     </message>
@@ -206,6 +202,22 @@
     <message>
         <source>Select a record first</source>
         <translation>Selezionare prima una registrazione</translation>
+    </message>
+    <message>
+        <source>&amp;Polygon</source>
+        <translation>&amp;Poligono</translation>
+    </message>
+    <message>
+        <source>Closed polygon &amp;input...</source>
+        <translation>&amp;Inserimento del poligono chiuso...</translation>
+    </message>
+    <message>
+        <source>A vertical side has no dx.</source>
+        <translation>Un lato verticale non ha dx.</translation>
+    </message>
+    <message>
+        <source>A horizontal side has no dy.</source>
+        <translation>Un lato orizzontale non ha dy.</translation>
     </message>
 </context>
 </TS>

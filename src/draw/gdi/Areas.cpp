@@ -4,6 +4,7 @@
 #include "draw/gdi/Lines.h"
 #include "host/RPoly.h"
 
+#include <cmath>
 #include <memory>
 #include <utility>
 
@@ -282,26 +283,48 @@ void DrawPoly(CButton& button, RPoly* poly, unsigned long lineColour, unsigned l
               int width) {
     CDC* dc = button.GetDC();
     const CRect client = seisplot::SetUpClientArea(&button, dc);
-    const int w = client.right;
-    const int h = client.top;
-
-    if (poly != nullptr && poly->GetNPoint() > 0) {
-        double dx = poly->GetMaxX() - poly->GetMinX();
-        double dy = poly->GetMaxY() - poly->GetMinY();
-        const double mx = (poly->GetMaxX() + poly->GetMinX()) * 0.5;
-        const double my = (poly->GetMaxY() + poly->GetMinY()) * 0.5;
-        if (dx != 0.0 || dy != 0.0) {
-            // A segment scales as the square on it.
-            if (dx == 0.0) {
-                dx = dy;
-            } else if (dy == 0.0) {
-                dy = dx;
-            }
-            const double s = find_conv(dx, dy, 0.7, 0.7, w, h);
-            const CPoint offset(static_cast<int>(w / 2 - mx * s), static_cast<int>(h / 2 - my * s));
-            const std::unique_ptr<CPoint[]> points(poly->GetNPoly(s, s, offset));
-            polygon(dc, points.get(), poly->GetNPoint(), fillColour, lineColour, width);
-        }
+    seisplot::PolygonPlacement placement;
+    if (poly != nullptr &&
+        seisplot::PlacePolygon(*poly, client.right, client.top, false, placement)) {
+        const std::unique_ptr<CPoint[]> points(
+            poly->GetNPoly(placement.scale, placement.scale, placement.offset));
+        polygon(dc, points.get(), poly->GetNPoint(), fillColour, lineColour, width);
     }
     button.ReleaseDC(dc);
 }
+
+namespace seisplot {
+
+CPoint PolygonPlacement::Map(const RPoint2D& vertex) const {
+    // Rounded as GetNPoly rounds the vertices that DrawPoly draws.
+    return CPoint(offset.x + static_cast<int>(std::lround(vertex.GetX() * scale)),
+                  offset.y + static_cast<int>(std::lround(vertex.GetY() * scale)));
+}
+
+bool PlacePolygon(const RPoly& poly, int width, int height, bool pointAsUnit,
+                  PolygonPlacement& placement) {
+    if (poly.GetNPoint() == 0) {
+        return false;
+    }
+    double dx = poly.GetMaxX() - poly.GetMinX();
+    double dy = poly.GetMaxY() - poly.GetMinY();
+    const double mx = (poly.GetMaxX() + poly.GetMinX()) * 0.5;
+    const double my = (poly.GetMaxY() + poly.GetMinY()) * 0.5;
+    if (dx == 0.0 && dy == 0.0) {
+        if (!pointAsUnit) {
+            return false;
+        }
+        dx = 1.0;
+        dy = 1.0;
+    } else if (dx == 0.0) {
+        dx = dy; // a segment scales as the square on it
+    } else if (dy == 0.0) {
+        dy = dx;
+    }
+    placement.scale = find_conv(dx, dy, 0.7, 0.7, width, height);
+    placement.offset = CPoint(static_cast<int>(width / 2 - mx * placement.scale),
+                              static_cast<int>(height / 2 - my * placement.scale));
+    return true;
+}
+
+} // namespace seisplot

@@ -37,3 +37,23 @@ int quart_circl(CDC* dc, unsigned char mode, long ax, long ay, long cx, long cy,
 int DisplayROPCircle(CDC* dc, CPoint centre, int diameter);
 void DrawPoly(CButton& button, RPoly* poly, unsigned long lineColour, unsigned long fillColour,
               int width);
+
+class RPoint2D;
+
+namespace seisplot {
+
+// Where DrawPoly puts a polygon in a client area W x H logical units large, origin at the
+// bottom-left corner: its bounding box, scaled to fill 70 % of the width or of the height,
+// centred. A segment's box counts as the square on it.
+struct PolygonPlacement {
+    double scale = 0.0;
+    CPoint offset;
+    // The logical point of a vertex, as GetNPoly gives it.
+    CPoint Map(const RPoint2D& vertex) const;
+};
+// False for an empty polygon, and for a point-like one unless `pointAsUnit` (its box is then
+// taken as 1 x 1, so that the point shows at the centre).
+bool PlacePolygon(const RPoly& poly, int width, int height, bool pointAsUnit,
+                  PolygonPlacement& placement);
+
+} // namespace seisplot

@@ -1,11 +1,11 @@
 #include "platform/ui/Controls.h"
 
+#include "platform/ui/BitmapButton_p.h"
 #include "platform/ui/DialogTemplates_p.h"
 #include "platform/ui/DialogWindow_p.h"
 
 #include <QComboBox>
 #include <QDateTimeEdit>
-#include <QIcon>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPixmap>
@@ -25,6 +25,11 @@ ControlView* ViewOf(const CWnd& window) {
 template <class W> W* WidgetOf(const CWnd& window) {
     ControlView* view = ViewOf(window);
     return view != nullptr ? qobject_cast<W*>(view->Widget()) : nullptr;
+}
+
+seisplot::BitmapButton* BitmapButtonOf(const CWnd& window) {
+    ControlView* view = ViewOf(window);
+    return view != nullptr ? dynamic_cast<seisplot::BitmapButton*>(view->Widget()) : nullptr;
 }
 
 // Changes made from code notify nobody.
@@ -245,26 +250,16 @@ BOOL CBitmapButton::LoadBitmaps(LPCTSTR up, LPCTSTR down) {
         (down != nullptr && !seisplot::LoadBitmapResource(down, downPicture))) {
         return FALSE;
     }
-    if (auto* button = WidgetOf<QAbstractButton>(*this)) {
-        QIcon icon;
-        icon.addPixmap(upPicture, QIcon::Normal, QIcon::Off);
-        if (!downPicture.isNull()) {
-            // Shown while the button is held down.
-            icon.addPixmap(downPicture, QIcon::Active, QIcon::On);
-            icon.addPixmap(downPicture, QIcon::Selected, QIcon::Off);
-        }
-        button->setIcon(icon);
-        button->setIconSize(upPicture.size());
-        button->setText(QString());
-        button->setProperty("bitmapUp", QString::fromUtf8(up));
-        button->setProperty("bitmapDown", down != nullptr ? QString::fromUtf8(down) : QString());
+    if (auto* button = BitmapButtonOf(*this)) {
+        button->SetBitmaps(upPicture, QString::fromUtf8(up), downPicture,
+                           down != nullptr ? QString::fromUtf8(down) : QString());
     }
     return TRUE;
 }
 
 void CBitmapButton::SizeToContent() {
-    if (auto* button = WidgetOf<QAbstractButton>(*this)) {
-        button->setFixedSize(button->iconSize() + QSize(8, 8));
+    if (auto* button = BitmapButtonOf(*this)) {
+        button->setFixedSize(button->sizeHint());
     }
 }
 

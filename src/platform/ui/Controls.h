@@ -53,10 +53,13 @@ public:
     void SetSel(int start, int end);
 };
 
-// A push button that shows one bitmap up and another pressed, loaded by their resource names.
+// A push button that is nothing but a bitmap: one while up, another while held down, loaded
+// by their resource names (its control in the template is a BitmapButton).
 class CBitmapButton : public CButton {
 public:
+    // FALSE when a bitmap is not among the resources; `down` may be null (the up one serves).
     BOOL LoadBitmaps(LPCTSTR up, LPCTSTR down);
+    // Makes the button the size of its bitmap.
     void SizeToContent();
 };
 

@@ -2,7 +2,9 @@
 
 #include "platform/core/ResourceModule.h"
 #include "platform/core/StringTable.h"
+#include "platform/ui/BitmapButton_p.h"
 #include "platform/ui/DialogWindow_p.h"
+#include "platform/ui/MultiLineButton_p.h"
 #include "platform/ui/OwnerDrawButton_p.h"
 #include "resources/Resources.h"
 
@@ -15,8 +17,9 @@
 namespace seisplot {
 namespace {
 
-// Builds our dialog widget for the form itself and our owner-drawn button for the class the
-// forms name "OwnerDrawButton".
+// Builds our dialog widget for the form itself, and our owner-drawn, bitmap and multi-line
+// buttons for the classes the forms name "OwnerDrawButton", "BitmapButton" and
+// "MultiLineButton".
 class TemplateLoader : public QUiLoader {
 public:
     explicit TemplateLoader(QWidget* parent) : m_parent(parent) {}
@@ -27,6 +30,10 @@ public:
             widget = new DialogWidget(m_parent);
         } else if (className == QLatin1String("OwnerDrawButton")) {
             widget = new OwnerDrawButton(parent);
+        } else if (className == QLatin1String("BitmapButton")) {
+            widget = new BitmapButton(parent);
+        } else if (className == QLatin1String("MultiLineButton")) {
+            widget = new MultiLineButton(parent);
         } else {
             return QUiLoader::createWidget(className, parent, name);
         }

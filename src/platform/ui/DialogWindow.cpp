@@ -213,7 +213,11 @@ DialogWindow::DialogWindow(CDialog& owner) : m_owner(owner) {
     if (!EnsureWidgetApplication()) {
         throw std::runtime_error("dialogs need a widget application");
     }
-    QWidget* parent = nullptr;
+    // Without a parent dialog, the window the user works in owns the dialog, as the framework
+    // does, so that the dialog opens over it and stays above it.
+    QWidget* parent = QApplication::activeModalWidget() != nullptr
+                          ? QApplication::activeModalWidget()
+                          : QApplication::activeWindow();
     if (auto* parentDialog = dynamic_cast<CDialog*>(owner.GetParent());
         parentDialog != nullptr && parentDialog->Window() != nullptr) {
         parent = parentDialog->Window()->Widget();

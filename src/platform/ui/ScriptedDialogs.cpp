@@ -1,5 +1,6 @@
 #include "platform/ui/ScriptedDialogs.h"
 
+#include "platform/ui/BitmapButton_p.h"
 #include "platform/ui/DialogAccess_p.h"
 #include "platform/ui/DialogWindow_p.h"
 
@@ -174,6 +175,11 @@ bool DialogHandle::LineChecked(int id, int line) const {
 int DialogHandle::ProgressPosition(int id) const {
     auto* bar = qobject_cast<QProgressBar*>(m_window.Control(id));
     return bar != nullptr ? bar->value() : -1;
+}
+
+CString DialogHandle::Bitmap(int id) const {
+    auto* button = dynamic_cast<BitmapButton*>(m_window.Control(id));
+    return button != nullptr ? FrameworkText(button->ShownName()) : CString();
 }
 
 CWnd& DialogHandle::Picture(int id) {

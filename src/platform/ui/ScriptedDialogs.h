@@ -52,6 +52,8 @@ public:
     int Selection(int id) const; // -1: none
     bool LineChecked(int id, int line) const;
     int ProgressPosition(int id) const;
+    // The resource name of the bitmap a bitmap button shows ("" before any is loaded).
+    CString Bitmap(int id) const;
     // The window of an owner-drawn control, its picture up to date.
     CWnd& Picture(int id);
     // The control the focus was last put on (0: none).

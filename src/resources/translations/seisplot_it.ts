@@ -565,6 +565,128 @@
     </message>
 </context>
 <context>
+    <name>GetPolygon</name>
+    <message>
+        <source>Closed polygon input</source>
+        <translation>Inserimento di un poligono chiuso</translation>
+    </message>
+    <message>
+        <source>Green point is that currently selected</source>
+        <translation>Il punto verde è quello attualmente selezionato</translation>
+    </message>
+    <message>
+        <source>Red point is the last added</source>
+        <translation>Il punto rosso è l'ultimo aggiunto</translation>
+    </message>
+    <message>
+        <source>Polygon is drawn closed depending on last input point.</source>
+        <translation>Il poligono è disegnato chiuso in funzione dell'ultimo punto inserito.</translation>
+    </message>
+    <message>
+        <source>New side</source>
+        <translation>Nuovo lato</translation>
+    </message>
+    <message>
+        <source>Side by dx and dy</source>
+        <translation>Lato per dx e dy</translation>
+    </message>
+    <message>
+        <source>Side by angle and distance</source>
+        <translation>Lato per angolo e distanza</translation>
+    </message>
+    <message>
+        <source>Side by angle and dx</source>
+        <translation>Lato per angolo e dx</translation>
+    </message>
+    <message>
+        <source>Side by angle and dy</source>
+        <translation>Lato per angolo e dy</translation>
+    </message>
+    <message>
+        <source>Circular arc</source>
+        <translation>Arco di circonferenza</translation>
+    </message>
+    <message>
+        <source>First point...</source>
+        <translation>Primo punto...</translation>
+    </message>
+    <message>
+        <source>Modify points</source>
+        <translation>Modifica punti</translation>
+    </message>
+    <message>
+        <source>&lt;&lt;</source>
+        <translation>&lt;&lt;</translation>
+    </message>
+    <message>
+        <source>&gt;&gt;</source>
+        <translation>&gt;&gt;</translation>
+    </message>
+    <message>
+        <source>x</source>
+        <translation>x</translation>
+    </message>
+    <message>
+        <source>y</source>
+        <translation>y</translation>
+    </message>
+    <message>
+        <source>Modify point...</source>
+        <translation>Modifica punto...</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Adding of preset polygons</source>
+        <translation>Aggiunta di poligoni predefiniti</translation>
+    </message>
+    <message>
+        <source>Special polygons...</source>
+        <translation>Poligoni speciali...</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>GetSpecialPoly</name>
+    <message>
+        <source>Special polygons input</source>
+        <translation>Inserimento di poligoni speciali</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Dati</translation>
+    </message>
+    <message>
+        <source>Rectangle having center in (A,B), base C, height D</source>
+        <translation>Rettangolo con centro in (A,B), base C, altezza D</translation>
+    </message>
+    <message>
+        <source>Circle with center in (A, B), radius C, number of intervals equal to D</source>
+        <translation>Cerchio con centro in (A, B), raggio C, numero di intervalli pari a D</translation>
+    </message>
+    <message>
+        <source>Half circle having center in (A, B), radius C, number of intervals equal to D and angle of diameter over horizontal equal to E (degrees)</source>
+        <translation>Semicerchio con centro in (A, B), raggio C, numero di intervalli pari a D e angolo del diametro sull'orizzontale pari a E (gradi)</translation>
+    </message>
+    <message>
+        <source>Regular polygon having center in (A, B), radius equal to C, number of sides equal to D, angle over horizontal of first vertex equal to E (degrees)</source>
+        <translation>Poligono regolare con centro in (A, B), raggio pari a C, numero di lati pari a D, angolo sull'orizzontale del primo vertice pari a E (gradi)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
     <name>GetTimeCurve</name>
     <message>
         <source>Function of Time</source>
@@ -941,7 +1063,7 @@
     </message>
     <message>
         <source>(using a percentile does not imply any probability)</source>
-        <translation>(l'uso di un percentile non implica alcuna probabilità)</translation>
+        <translation>(l&apos;uso di un percentile non implica alcuna probabilità)</translation>
     </message>
     <message>
         <source>Signals</source>
@@ -957,7 +1079,7 @@
     </message>
     <message>
         <source>Track last run...</source>
-        <translation>Traccia dell'ultimo calcolo...</translation>
+        <translation>Traccia dell&apos;ultimo calcolo...</translation>
     </message>
     <message>
         <source>click to enlarge</source>

@@ -54,6 +54,26 @@ elseif(CASE STREQUAL "dialog_through_menu")
     if(NOT width EQUAL 1280 OR NOT height EQUAL 1024 OR colours LESS 16)
         message(FATAL_ERROR "the screenshot is ${width} x ${height} with ${colours} colours")
     endif()
+elseif(CASE STREQUAL "polygon_through_menu")
+    # The polygon dialog opens on the project's polygon (its first vertex in the fields), and
+    # its "Special polygons..." button opens the preset shapes.
+    studio(--polygon "5,7 9,7 9,8" --open-dialog polygonInput
+        --dialog-report ${WORK_DIR}/polygon.txt --quit)
+    studio(--open-dialog polygonInput --dialog-click 14614
+        --dialog-report ${WORK_DIR}/special.txt --quit)
+    file(READ ${WORK_DIR}/polygon.txt polygon)
+    file(READ ${WORK_DIR}/special.txt special)
+    foreach(expected "title: Closed polygon input" "QGroupBox: New side" "QLineEdit: 5\n"
+            "QLineEdit: 7\n" "QPushButton: Special polygons...")
+        string(FIND "${polygon}" "${expected}" at)
+        if(at EQUAL -1)
+            message(FATAL_ERROR "the polygon dialog does not show '${expected}':\n${polygon}")
+        endif()
+    endforeach()
+    string(FIND "${special}" "title: Special polygons input" at)
+    if(at EQUAL -1)
+        message(FATAL_ERROR "no preset shapes from the polygon dialog:\n${special}")
+    endif()
 elseif(CASE STREQUAL "without_display")
     execute_process(
         COMMAND ${CMAKE_COMMAND} -E env --unset=DISPLAY --unset=WAYLAND_DISPLAY

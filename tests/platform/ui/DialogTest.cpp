@@ -7,13 +7,16 @@
 #include "platform/ui/Clipboard.h"
 #include "platform/ui/Controls.h"
 #include "platform/ui/DataExchange.h"
+#include "platform/ui/DialogWindow_p.h"
 #include "platform/ui/PrintDialog.h"
 #include "platform/ui/ScriptedDialogs.h"
 #include "support/TempDir.h"
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QClipboard>
+#include <QFontMetrics>
 #include <QGuiApplication>
 #include <QImage>
 
@@ -54,6 +57,7 @@ public:
         TestModule();
         On(9113, BN_CLICKED, &Probe::OnRun);
         On(9114, BN_CLICKED, &Probe::OnNested);
+        On(9116, BN_CLICKED, &Probe::OnBitmap);
         On(9107, LBN_SELCHANGE, &Probe::OnLineChange);
         when.SetStatus(COleDateTime::null);
     }
@@ -68,8 +72,11 @@ public:
     CCheckListBox checks;
     CButton picture;
     CProgressCtrl progress;
+    CBitmapButton bitmap;
 
     int runs = 0;
+    int bitmapClicks = 0;
+    BOOL missingBitmapLoaded = TRUE;
     int lineChanges = 0;
     int drawings = 0;
     bool throwOnNested = false;
@@ -86,6 +93,8 @@ protected:
         checks.AddString("c1");
         checks.AddString("c2");
         checks.SetCheck(1, 1);
+        missingBitmapLoaded = bitmap.LoadBitmaps("XXDXDYU", "NOSUCHD");
+        bitmap.LoadBitmaps("XXDXDYU", "XXDXDYD");
         return TRUE;
     }
 
@@ -94,6 +103,7 @@ protected:
         DDX_Control(pDX, 9108, checks);
         DDX_Control(pDX, 9110, picture);
         DDX_Control(pDX, 9111, progress);
+        DDX_Control(pDX, 9116, bitmap);
         DDX_Text(pDX, 9101, ratio);
         DDV_MinMaxDouble(pDX, ratio, 0.0, 1.0);
         DDX_Text(pDX, 9102, count);
@@ -137,6 +147,7 @@ private:
         }
     }
     void OnLineChange() { ++lineChanges; }
+    void OnBitmap() { ++bitmapClicks; }
 };
 
 struct Scripted : testing::Test {
@@ -299,6 +310,54 @@ TEST_F(Scripted, AnOwnerDrawnControlShowsWhatItsContextDrew) {
         probe.Invalidate();
         d.Picture(9110);
         EXPECT_EQ(probe.drawings, 2);
+        d.Ok();
+    });
+    probe.DoModal();
+}
+
+TEST_F(Scripted, ABitmapButtonIsItsUpBitmapAndItsDownOneWhileHeld) {
+    Probe probe;
+    dialogs.Expect(9001, [&](DialogHandle& d) {
+        EXPECT_FALSE(probe.missingBitmapLoaded);
+        const auto bitmap = [](const char* name) {
+            return QImage(QStringLiteral(":/seisplot/bitmaps/%1.png").arg(name))
+                .convertToFormat(QImage::Format_RGB32);
+        };
+        auto* button = qobject_cast<QAbstractButton*>(d.Dialog().Window()->Control(9116));
+        ASSERT_NE(button, nullptr);
+        const auto shown = [&] {
+            return button->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        };
+        EXPECT_EQ(d.Bitmap(9116), "XXDXDYU");
+        EXPECT_EQ(shown(), bitmap("XXDXDYU"));
+        button->setDown(true);
+        EXPECT_EQ(d.Bitmap(9116), "XXDXDYD");
+        EXPECT_EQ(shown(), bitmap("XXDXDYD"));
+        button->setDown(false);
+        d.Click(9116);
+        EXPECT_EQ(probe.bitmapClicks, 1);
+        d.Ok();
+    });
+    probe.DoModal();
+}
+
+TEST_F(Scripted, AMultiLineButtonWrapsItsCaptionAndIsTallEnoughForIt) {
+    Probe probe;
+    dialogs.Expect(9001, [&](DialogHandle& d) {
+        const CString caption =
+            "Regular polygon having center in (A, B), radius equal to C, number "
+            "of sides equal to D, angle over horizontal of first vertex equal "
+            "to E (degrees)";
+        EXPECT_EQ(d.Text(9117), caption);
+        QWidget* button = d.Dialog().Window()->Control(9117);
+        ASSERT_NE(button, nullptr);
+        const QFontMetrics metrics = button->fontMetrics();
+        const QString text = QString::fromUtf8(caption.GetString());
+        EXPECT_LT(button->width(), metrics.horizontalAdvance(text)); // it wraps
+        const QRect wrapped =
+            metrics.boundingRect(QRect(0, 0, button->width(), 1000), Qt::TextWordWrap, text);
+        EXPECT_GE(wrapped.height(), 2 * metrics.height());
+        EXPECT_GE(button->height(), wrapped.height()); // every line shows
         d.Ok();
     });
     probe.DoModal();
