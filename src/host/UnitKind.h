@@ -18,6 +18,8 @@ enum class UnitKind : unsigned char {
     Acceleration = 10,
     Velocity = 11,
     Time = 12,
+    // A moment that curve listings convert and plots leave as held.
+    ListedMoment = 13,
 };
 
 } // namespace seisplot

@@ -10,8 +10,8 @@
 
 namespace {
 
-// A formula compiled once for a set of variable names: curve mixing evaluates the same
-// formula over the same names at every point of a curve, each time with a fresh VarMan.
+// A formula compiled once for a set of variable names: a caller that evaluates one formula at
+// every point of a curve, each time with a fresh VarMan, compiles it once.
 struct CompiledFormula {
     std::string text;
     std::vector<std::string> names;
@@ -34,30 +34,84 @@ bool Matches(const CompiledFormula& compiled, const std::string& text,
     return true;
 }
 
+// Sets `parser` up for `text` with variable i bound to values[i]; false for a name given
+// twice (muParser raises for a name it cannot hold).
+bool Setup(mu::Parser& parser, const std::string& text, const std::vector<Variable>& vars,
+           const std::vector<double*>& values) {
+    // muParser's own constants stop at 12 decimals; engineers get the doubles nearest pi and e.
+    parser.DefineConst("_pi", std::numbers::pi);
+    parser.DefineConst("_e", std::numbers::e);
+    for (size_t i = 0; i < vars.size(); ++i) {
+        const std::string name = vars[i].GetName().GetString();
+        for (size_t j = 0; j < i; ++j) {
+            if (name == vars[j].GetName().GetString()) {
+                return false;
+            }
+        }
+        parser.DefineVar(name, values[i]);
+    }
+    parser.SetExpr(text);
+    return true;
+}
+
 // Null when the names or the formula are not acceptable.
 std::unique_ptr<CompiledFormula> Compile(const std::string& text,
                                          const std::vector<Variable>& vars) {
     auto compiled = std::make_unique<CompiledFormula>();
-    // muParser's own constants stop at 12 decimals; engineers get the doubles nearest pi and e.
-    compiled->parser.DefineConst("_pi", std::numbers::pi);
-    compiled->parser.DefineConst("_e", std::numbers::e);
     compiled->text = text;
     compiled->values.resize(vars.size());
+    std::vector<double*> values;
     for (size_t i = 0; i < vars.size(); ++i) {
-        const std::string name = vars[i].GetName().GetString();
-        for (const std::string& earlier : compiled->names) {
-            if (earlier == name) {
-                return nullptr;
-            }
-        }
-        compiled->names.push_back(name);
-        compiled->parser.DefineVar(name, &compiled->values[i]);
+        compiled->names.push_back(vars[i].GetName().GetString());
+        values.push_back(&compiled->values[i]);
     }
-    compiled->parser.SetExpr(text);
+    if (!Setup(compiled->parser, text, vars, values)) {
+        return nullptr;
+    }
     return compiled;
 }
 
 } // namespace
+
+int VarMan::EvaluateRows(const char* formula, int rows, const std::vector<const double*>& columns,
+                         double* results) const {
+    if (formula == nullptr || columns.size() != m_vars.size() || rows < 0) {
+        return 1;
+    }
+    try {
+        // The parser reads (and an assignment in the formula would write) its own copies; with
+        // no row, one zero each, so that the formula is still checked.
+        const size_t length = rows > 0 ? static_cast<size_t>(rows) : 1;
+        std::vector<std::vector<double>> copies(m_vars.size(), std::vector<double>(length, 0.0));
+        std::vector<double*> values;
+        for (size_t i = 0; i < m_vars.size(); ++i) {
+            if (rows > 0) {
+                copies[i].assign(columns[i], columns[i] + rows);
+            }
+            values.push_back(copies[i].data());
+        }
+        mu::Parser parser;
+        if (!Setup(parser, formula, m_vars, values)) {
+            return 1;
+        }
+        parser.Eval();
+        if (parser.GetNumResults() != 1) {
+            return 1;
+        }
+        if (rows == 0) {
+            return 0;
+        }
+        parser.Eval(results, rows);
+    } catch (const mu::Parser::exception_type&) {
+        return 1;
+    }
+    for (int r = 0; r < rows; ++r) {
+        if (!std::isfinite(results[r])) {
+            return 1;
+        }
+    }
+    return 0;
+}
 
 void VarMan::AddVar(const char* name, double value, int unitKind) {
     m_vars.emplace_back(CString(name != nullptr ? name : ""), value, unitKind);

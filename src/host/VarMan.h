@@ -5,9 +5,10 @@
 // The grammar is muParser's: + - * / ^ with the usual precedence (^ from the right), unary
 // minus, parentheses, the functions sin cos tan asin acos atan sinh cosh tanh asinh acosh
 // atanh log2 log10 ln (and log, also natural) exp sqrt sign rint abs min max sum avg, the
-// constants _pi and _e, comparisons, && || and the conditional "c ? a : b". Variable names are letters, digits and '_', not starting with a digit.
-// Values are combined as plain numbers: the unit kinds travel with the variables for the
-// caller's information and play no part in the arithmetic.
+// constants _pi and _e, comparisons, && || and the conditional "c ? a : b". Variable names are
+// letters, digits and '_', not starting with a digit. Values are combined as plain numbers: the
+// unit kinds travel with the variables for the caller's information and play no part in the
+// arithmetic.
 
 #include "platform/core/CString.h"
 
@@ -44,6 +45,12 @@ public:
     // and cursor untouched, for a syntax error, an unknown or misnamed variable, a name
     // given twice, several results, or a result that is not a finite number.
     int expression(char** cursor, Variable* result) const;
+    // The same formula for `rows` rows at once (muParser's bulk evaluation): variable i, in the
+    // order added, takes columns[i][r] in row r, and results[r] receives the value. Non-zero
+    // for the errors of expression, or when any row's value is not a finite number; results
+    // are then unspecified.
+    int EvaluateRows(const char* formula, int rows, const std::vector<const double*>& columns,
+                     double* results) const;
 
 private:
     std::vector<Variable> m_vars;

@@ -55,7 +55,7 @@ TEST_F(CurveDisplayTest, TheListingShowsEachPointInTheUsersUnitsAndFollowsSwappe
     PCurve beam;
     beam.SetName("beam");
     beam.XUnit = seisplot::UnitKind::Length;
-    beam.YUnit = static_cast<seisplot::UnitKind>(13); // a moment in the listing only
+    beam.YUnit = seisplot::UnitKind::ListedMoment;
     for (int k = 1; k <= 12; ++k) {
         beam.AddPoint(250.0 * k, -1.5e6 * k);
     }

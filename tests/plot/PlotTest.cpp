@@ -226,10 +226,11 @@ TEST(CurvePlot, PrintingDrawsA200MillimetreSquare) {
 }
 
 TEST(CurvePlot, UnitKindsConvertValuesAndLabelTitles) {
-    // x of kind 13 stays as it is and has no unit label; y of kind 10 (mm/s²) is shown in
-    // m/s² with its label. Range 0 ... 1000 steps by 100; -9.81 ... 9.81 by 2.
+    // x of the moment kind only listings convert stays as it is and has no unit label; y of
+    // kind 10 (mm/s²) is shown in m/s² with its label. Range 0 ... 1000 steps by 100; -9.81
+    // ... 9.81 by 2.
     PCurve c = CurveOf({{0, -9810}, {1000, 9810}});
-    c.XUnit = static_cast<seisplot::UnitKind>(13); // no kind
+    c.XUnit = seisplot::UnitKind::ListedMoment;
     c.YUnit = seisplot::UnitKind::Acceleration;
     c.XName = "time";
     c.YName = "acc";

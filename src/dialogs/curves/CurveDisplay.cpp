@@ -3,6 +3,7 @@
 #include "dialogs/PictureCopy.h"
 #include "dialogs/TextViewer.h"
 #include "dialogs/curves/CurveMixing.h"
+#include "host/CurveFormula.h"
 #include "platform/core/CFileDialog.h"
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/PrintDialog.h"
@@ -43,42 +44,19 @@ constexpr int kUpdate = 14787;
 constexpr int kXLines = 14788;
 constexpr int kYLines = 14789;
 
+using seisplot::UnitKind;
+
 // Point marks made in this dialog are those of view 1.
 constexpr unsigned short kMarkLayer = 1;
 constexpr const char* kNoContext = "Error getting DC. Too many commands?";
 
-// A listed value as the user reads it, by the unit kind of its axis; kinds the listing does
-// not convert (and every kind without units) are shown as held.
-double Displayed(const Units* u, seisplot::UnitKind unitKind, double v) {
+// A listed value as the user reads it, by the unit kind of its axis; the listing also converts
+// the moments that plots leave as held. Without units, values are shown as held.
+double Displayed(const Units* u, UnitKind kind, double v) {
     if (u == nullptr) {
         return v;
     }
-    switch (static_cast<int>(unitKind)) {
-    case 1:
-        return u->L_U(v);
-    case 2:
-        return u->A_U(v);
-    case 3:
-        return u->V_U(v);
-    case 4:
-        return u->J_U(v);
-    case 5:
-        return u->F_U(v);
-    case 6:
-        return u->M_U(v);
-    case 7:
-        return u->Pr_U(v);
-    case 10:
-        return u->Acc_U(v);
-    case 11:
-        return u->Vel_U(v);
-    case 12:
-        return u->T_U(v);
-    case 13:
-        return u->M_U(v);
-    default:
-        return v;
-    }
+    return kind == UnitKind::ListedMoment ? u->M_U(v) : seisplot::ToDisplayedUnits(*u, kind, v);
 }
 
 template <class Kind> struct MixerFor;

@@ -1,9 +1,7 @@
 #include "dialogs/curves/CurveMixing.h"
 
-#include "host/VarMan.h"
+#include "host/CurveFormula.h"
 #include "platform/ui/DataExchange.h"
-
-#include <string>
 
 namespace {
 
@@ -23,69 +21,11 @@ constexpr int kKinds = 14601;
 // The formula is copied into a buffer of 298 characters; a longer one is refused when read.
 constexpr int kLongestFormula = 298;
 
+using seisplot::UnitKind;
+
 constexpr const char* kExpressionError = "Error processing expression";
 constexpr const char* kDifferentCounts = "Different number of points";
 constexpr const char* kNoCurveA = "Bind a curve to A first";
-
-// A value as the user reads it, and back, by the unit kind of its axis; kinds 8 and 9 and
-// kinds this table does not know are pure numbers.
-double ToDisplayed(const Units& u, int kind, double v) {
-    switch (kind) {
-    case 1:
-        return u.L_U(v);
-    case 2:
-        return u.A_U(v);
-    case 3:
-        return u.V_U(v);
-    case 4:
-        return u.J_U(v);
-    case 5:
-        return u.F_U(v);
-    case 6:
-        return u.M_U(v);
-    case 7:
-        return u.St_U(v);
-    case 10:
-        return u.Acc_U(v);
-    case 11:
-        return u.Vel_U(v);
-    case 12:
-        return u.T_U(v);
-    default:
-        return v;
-    }
-}
-
-double ToInternal(const Units& u, int kind, double v) {
-    switch (kind) {
-    case 1:
-        return u.L_M(v);
-    case 2:
-        return u.A_M(v);
-    case 3:
-        return u.V_M(v);
-    case 4:
-        return u.J_M(v);
-    case 5:
-        return u.F_M(v);
-    case 6:
-        return u.M_M(v);
-    case 7:
-        return u.St_M(v);
-    case 10:
-        return u.Acc_M(v);
-    case 11:
-        return u.Vel_M(v);
-    case 12:
-        return u.T_M(v);
-    default:
-        return v;
-    }
-}
-
-int KindOf(seisplot::UnitKind kind) {
-    return static_cast<int>(kind);
-}
 
 } // namespace
 
@@ -212,72 +152,43 @@ template <class Kind> void CurveMixing<Kind>::OnBnClickedExec() {
     if (!this->UpdateData(TRUE) || !NamesComplete(kCurveSlots)) {
         return;
     }
-    std::array<const Curve*, kCurveSlots> bound{};
+    std::array<FormulaSlot, kFormulaSlots> slots;
     for (int slot = 0; slot < kCurveSlots; ++slot) {
+        slots[static_cast<size_t>(slot)].variable = VarName[slot];
         if (CurveNumber[slot] != 0) {
-            bound[slot] = Coll.GetP(static_cast<int>(CurveNumber[slot]));
-            if (bound[slot] == nullptr) {
+            const Curve* curve = Coll.GetP(static_cast<int>(CurveNumber[slot]));
+            if (curve == nullptr) {
                 // A slot still bound to the last curve after it was deleted.
                 AfxMessageBox(kExpressionError);
                 return;
             }
-        }
-    }
-    const Curve* a = bound[0];
-    if (a == nullptr) {
-        AfxMessageBox(kNoCurveA);
-        return;
-    }
-    // Points are combined by number, up to A's count: every bound curve needs that many.
-    for (const Curve* curve : bound) {
-        if (curve != nullptr && curve->GetNP() < a->GetNP()) {
-            AfxMessageBox(kDifferentCounts);
-            return;
+            slots[static_cast<size_t>(slot)].curve = curve;
         }
     }
     const int line = m_kinds.GetCurSel();
     ResultKind = line == CB_ERR ? 0 : line + 1;
-    const bool onX = Coordinate == 0;
+    const auto axis = Coordinate == 0 ? FormulaAxis::X : FormulaAxis::Y;
 
-    Curve result(*a);
-    result.Clear();
-    result.SetName(NewCurveName);
-    if (onX) {
-        result.XUnit = static_cast<UnitKind>(ResultKind);
-    } else {
-        result.YUnit = static_cast<UnitKind>(ResultKind);
+    Curve result;
+    if (slots[0].curve != nullptr) {
+        result = *static_cast<const Curve*>(slots[0].curve);
+        result.Clear();
     }
-    for (int k = 1; k <= a->GetNP(); ++k) {
-        VarMan vars;
-        for (int slot = 0; slot < kCurveSlots; ++slot) {
-            const Curve* curve = bound[slot];
-            if (curve == nullptr) {
-                vars.AddVar(VarName[slot].GetString(), 0.0, 0);
-                continue;
-            }
-            const RPoint2D point = curve->GetPoint(k);
-            const int kind = KindOf(onX ? curve->XUnit : curve->YUnit);
-            const double internal = onX ? point.GetX() : point.GetY();
-            vars.AddVar(VarName[slot].GetString(), ToDisplayed(UnitSystem, kind, internal), kind);
-        }
-        std::string text = Formula.GetString();
-        VarMan::DeleteBlanks(text.data());
-        text.resize(std::char_traits<char>::length(text.c_str()));
-        char* cursor = text.data();
-        Variable value;
-        if (vars.expression(&cursor, &value) != 0) {
-            AfxMessageBox(kExpressionError);
-            return;
-        }
-        const double computed = ResultKind == 0
-                                    ? value.GetAsDouble()
-                                    : ToInternal(UnitSystem, ResultKind, value.GetAsDouble());
-        const RPoint2D kept = a->GetPoint(k);
-        if (onX) {
-            result.AddPoint(computed, kept.GetY());
-        } else {
-            result.AddPoint(kept.GetX(), computed);
-        }
+    result.SetName(NewCurveName);
+    (axis == FormulaAxis::X ? result.XUnit : result.YUnit) = static_cast<UnitKind>(ResultKind);
+    switch (ApplyCurveFormula(slots, Formula, axis, static_cast<UnitKind>(ResultKind), UnitSystem,
+                              result)) {
+    case FormulaOutcome::NoCurveA:
+        AfxMessageBox(kNoCurveA);
+        return;
+    case FormulaOutcome::TooFewPoints:
+        AfxMessageBox(kDifferentCounts);
+        return;
+    case FormulaOutcome::ExpressionError:
+        AfxMessageBox(kExpressionError);
+        return;
+    case FormulaOutcome::Done:
+        break;
     }
     Kind::Add(Coll, result);
     RefillList();

@@ -8,6 +8,7 @@
 // operation changes Coll unless it completes.
 
 #include "dialogs/curves/CurveKinds.h"
+#include "host/CurveFormula.h"
 #include "host/Units.h"
 #include "platform/ui/CDialog.h"
 #include "platform/ui/Controls.h"
@@ -16,7 +17,7 @@
 
 namespace seisplot {
 
-inline constexpr int kCurveSlots = 6;
+inline constexpr int kCurveSlots = kFormulaSlots;
 
 template <class Kind> class CurveMixing : public CDialog {
 public:
