@@ -4,7 +4,9 @@
 #include "platform/gdi/PixelImage_p.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstdlib>
+#include <cstring>
 
 namespace {
 
@@ -57,9 +59,14 @@ int GetDIBits(HDC dc, HBITMAP bitmap, UINT start, UINT lines, void* bits, BITMAP
     const int last = static_cast<int>(std::min<UINT>(start + lines, static_cast<UINT>(height)));
     auto* out = static_cast<BYTE*>(bits);
     for (int row = static_cast<int>(start); row < last; ++row) {
-        const auto* line =
-            reinterpret_cast<const QRgb*>(image.constScanLine(bottomUp ? height - 1 - row : row));
+        const uchar* scan = image.constScanLine(bottomUp ? height - 1 - row : row);
         BYTE* p = out + static_cast<std::ptrdiff_t>(row - static_cast<int>(start)) * stride;
+        // The image's 0xFFRRGGBB pixels are already blue, green, red, 255 in memory.
+        if (bytesPerPixel == 4 && std::endian::native == std::endian::little) {
+            std::memcpy(p, scan, static_cast<std::size_t>(image.width()) * 4);
+            continue;
+        }
+        const auto* line = reinterpret_cast<const QRgb*>(scan);
         for (int x = 0; x < image.width(); ++x, p += bytesPerPixel) {
             p[0] = static_cast<BYTE>(qBlue(line[x]));
             p[1] = static_cast<BYTE>(qGreen(line[x]));
