@@ -203,6 +203,17 @@ TEST(DeviceContext, BlitsCopyAndInvertWithFlips) {
     target.dc.BitBlt(2, 2, 4, 2, &source.dc, 0, 0, SRCCOPY);
     EXPECT_EQ(target.dc.GetPixel(2, 2), kRed);
     EXPECT_EQ(target.dc.GetPixel(5, 3), 0x00FF00u);
+    // Only what lies inside the picture and the clip region is copied.
+    target.dc.BitBlt(-3, 7, 4, 2, &source.dc, 0, 0, SRCCOPY);
+    EXPECT_EQ(target.dc.GetPixel(0, 7), kWhite);
+    target.dc.BitBlt(5, 6, 4, 2, &source.dc, 0, 0, SRCCOPY);
+    EXPECT_EQ(target.dc.GetPixel(5, 6), kRed);
+    EXPECT_EQ(target.dc.GetPixel(7, 7), kWhite);
+    target.dc.IntersectClipRect(0, 0, 4, 8);
+    target.dc.BitBlt(3, 4, 4, 2, &source.dc, 0, 0, SRCCOPY);
+    EXPECT_EQ(target.dc.GetPixel(3, 4), kRed);
+    EXPECT_EQ(target.dc.GetPixel(6, 5), kWhite);
+    target.dc.SelectClipRgn(nullptr);
     // Inverting with white turns white black; twice restores it.
     target.dc.BitBlt(2, 2, 4, 2, &source.dc, 0, 0, SRCINVERT);
     EXPECT_EQ(target.dc.GetPixel(3, 2), 0u);
