@@ -63,9 +63,9 @@ PCurve Part(const PCurve& curve, int from, int to) {
     return part;
 }
 
-// Draws frames into `movie`: the plot builds up in `window`, each frame is a copy of it with
-// the disc and the time. Returns the number of frames.
-long DrawFrames(PCurve& curve, CWnd& window, int frames, double fps, CAviFile& movie) {
+// Draws `frames` frames into `movie`: the plot builds up in `window`, each frame is a copy of
+// it with the disc and the time.
+void DrawFrames(PCurve& curve, CWnd& window, int frames, double fps, CAviFile& movie) {
     Units units;
     SFont title(12, 0), axes(10, 0), labels(8, 0), clock(12, 0);
     {
@@ -116,7 +116,6 @@ long DrawFrames(PCurve& curve, CWnd& window, int frames, double fps, CAviFile& m
             Fail(std::string("cannot write the movie: ") + movie.GetLastErrorMessage());
         }
     }
-    return frames;
 }
 
 } // namespace

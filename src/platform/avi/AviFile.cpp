@@ -50,6 +50,7 @@ public:
                 0) {
             return nullptr;
         }
+        file->m_created = true;
         return file.release();
     }
 
@@ -116,7 +117,9 @@ private:
         avformat_free_context(m_context);
         m_context = nullptr;
         if (!m_headerWritten) {
-            std::remove(m_path.c_str());
+            if (m_created) {
+                std::remove(m_path.c_str());
+            }
         } else if (stored != m_handler) {
             PatchHandler();
         }
@@ -147,6 +150,7 @@ private:
     std::string m_path;
     AVFormatContext* m_context = nullptr;
     DWORD m_handler = 0;
+    bool m_created = false; // the file at the path is ours to remove
     bool m_hasFormat = false;
     bool m_headerWritten = false;
 };
