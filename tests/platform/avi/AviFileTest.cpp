@@ -196,18 +196,9 @@ TEST(AviFile, UncompressedFramesAreStoredAsDibRows) {
     }
 }
 
-TEST(AviFile, RefusesWhatItCannotWrite) {
+TEST(AviFile, RefusesFramesOfAnotherSizeOrOutOfOrder) {
     TempDir dir;
     Dib dib = MakeDib(16, 16, 32, false, 0);
-    EXPECT_EQ(Writer(dir.Path("none.avi"), Fourcc("ABCD"), 25, dib).made, AVIERR_NOCOMPRESSOR);
-    EXPECT_EQ(Writer(dir.Path("no/such/folder.avi"), 0, 25, dib).made, AVIERR_FILEOPEN);
-    EXPECT_EQ(Writer(dir.Path("still.avi"), 0, 0, dib).made, AVIERR_BADPARAM);
-    Dib grey = dib;
-    grey.bitCount = 16;
-    EXPECT_EQ(Writer(dir.Path("grey.avi"), Fourcc("MJPG"), 25, grey).made, AVIERR_BADFORMAT);
-    // Nothing that holds no movie is left behind.
-    EXPECT_TRUE(std::filesystem::is_empty(dir.Path("")));
-
     Writer w(dir.Path("frames.avi"), Fourcc("MJPG"), 25, dib);
     ASSERT_EQ(w.made, AVIERR_OK);
     Dib half = MakeDib(16, 8, 32, false, 0);
