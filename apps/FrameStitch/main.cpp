@@ -131,7 +131,10 @@ QImage ReadPicture(const fs::path& path, const QSize& size) {
     if (size.isValid() && picture.size() != size) {
         picture = picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     }
-    return picture.convertToFormat(QImage::Format_RGB32).mirrored(false, true);
+    // In place: a picture is a few megabytes, and there are hundreds of them.
+    picture.convertTo(QImage::Format_RGB32);
+    picture.mirror(false, true);
+    return picture;
 }
 
 struct Result {
