@@ -1,6 +1,6 @@
 // A program outside the project that uses the installed library.
-#include <seisplot.h>
 #include <movie/CAviFile.h>
+#include <seisplot.h>
 
 #include <cstdio>
 
