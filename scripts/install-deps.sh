@@ -10,6 +10,7 @@ packages=(
     libcli11-dev nlohmann-json3-dev
     libhwy-dev libmuparser-dev
     qt6-base-dev qt6-svg-dev qt6-qpa-plugins qt6-tools-dev qt6-l10n-tools libqt6opengl6-dev
+    libavformat-dev libavcodec-dev libswscale-dev libavutil-dev ffmpeg
     xvfb xauth imagemagick
     fonts-dejavu-core fonts-liberation2
 )

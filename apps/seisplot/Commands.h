@@ -137,6 +137,18 @@ void RunRecordReport(const ReportOptions& options, std::ostream& out);
 void RunSpectrumReport(const ReportOptions& options, std::ostream& out);
 void AddReportCommands(CLI::App& app, Action& action);
 
+// movie SET.acc N -o FILE.avi
+struct MovieOptions {
+    std::string set;
+    unsigned long record = 0;
+    std::string output;
+    unsigned long fps = 25;
+    std::string codec = "MPG4";
+    std::string size = "800x600";
+};
+void RunMovie(const MovieOptions& options, std::ostream& out);
+void AddMovieCommand(CLI::App& app, Action& action);
+
 // demo [OUTDIR]
 void AddDemoCommand(CLI::App& app, Action& action);
 

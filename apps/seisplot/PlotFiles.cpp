@@ -34,21 +34,6 @@ PictureKind KindOf(const std::string& path) {
     BadUsage(path + ": the picture must be a .png, .svg or .pdf file");
 }
 
-struct Size {
-    int width;
-    int height;
-};
-
-Size ParseSize(const std::string& text) {
-    int width = 0, height = 0;
-    char x = 0, rest = 0;
-    if (std::sscanf(text.c_str(), "%d%c%d%c", &width, &x, &height, &rest) != 3 ||
-        (x != 'x' && x != 'X') || width < 100 || height < 100 || width > 20000 || height > 20000) {
-        BadUsage("--size " + text + ": give WIDTHxHEIGHT in pixels, each 100 to 20000");
-    }
-    return {width, height};
-}
-
 // The plot as the tool draws it: title 12 points, axis titles 10, tick labels 8; the curve in
 // dark blue a quarter of a millimetre wide.
 template <class Curve> void DrawPlot(Curve& curve, CWnd& window, CDC& dc) {
@@ -63,7 +48,7 @@ template <class Curve> void DrawPlot(Curve& curve, CWnd& window, CDC& dc) {
 template <class Curve>
 void Write(const PlotOptions& options, const std::string& path, Curve& curve) {
     const PictureKind kind = KindOf(path);
-    const Size size = ParseSize(options.size);
+    const PictureSize size = ParsePictureSize(options.size);
     ReplaceFile(path, [&](const std::string& temporary) {
         CWnd window;
         window.SetClientSize(size.width, size.height);
@@ -99,6 +84,16 @@ std::string WithSuffix(const std::string& path, const std::string& suffix) {
 
 } // namespace
 
+PictureSize ParsePictureSize(const std::string& text) {
+    int width = 0, height = 0;
+    char x = 0, rest = 0;
+    if (std::sscanf(text.c_str(), "%d%c%d%c", &width, &x, &height, &rest) != 3 ||
+        (x != 'x' && x != 'X') || width < 100 || height < 100 || width > 20000 || height > 20000) {
+        BadUsage("--size " + text + ": give WIDTHxHEIGHT in pixels, each 100 to 20000");
+    }
+    return {width, height};
+}
+
 void AddPlotOptions(CLI::App& command, PlotOptions& options) {
     command.add_option("--plot", options.file,
                        "Also draw the curve into a picture: FILE.png, FILE.svg or FILE.pdf");
@@ -109,7 +104,7 @@ void AddPlotOptions(CLI::App& command, PlotOptions& options) {
 void CheckPlotOptions(const PlotOptions& options) {
     if (options.file) {
         KindOf(*options.file);
-        ParseSize(options.size);
+        ParsePictureSize(options.size);
     }
 }
 

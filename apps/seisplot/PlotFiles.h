@@ -17,6 +17,13 @@ struct PlotOptions {
 };
 void AddPlotOptions(CLI::App& command, PlotOptions& options);
 
+struct PictureSize {
+    int width;
+    int height;
+};
+// "800x600": fails (BadUsage) unless it gives a width and a height of 100 to 20000 pixels.
+PictureSize ParsePictureSize(const std::string& text);
+
 // Fails (BadUsage) on an unknown extension or a bad size when a picture is asked for: run
 // before any work, so that a long computation does not end in a usage error.
 void CheckPlotOptions(const PlotOptions& options);

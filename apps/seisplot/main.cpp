@@ -44,6 +44,7 @@ int main(int argc, char** argv) {
     seisplot::cli::AddEnvelopeCommand(app, action);
     seisplot::cli::AddReportCommands(app, action);
     seisplot::cli::AddGenerateCommands(app, action);
+    seisplot::cli::AddMovieCommand(app, action);
     seisplot::cli::AddDemoCommand(app, action);
 
     if (argc > 1 && argv[1][0] != '-') {

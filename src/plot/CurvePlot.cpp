@@ -18,6 +18,10 @@ void DrawCurve(PMCurve* curve, CWnd* wnd, CDC* dc, int fill, Units* units, SFont
                         invert, markAll, tickLabels, colour, width, hGrid, vGrid, hStep, vStep);
 }
 
+seisplot::PlotAxes CurvePlotAxes(PCurve* curve, CWnd* wnd, CDC* dc, Units* units, int invert) {
+    return seisplot::CurveAxes(*curve, wnd, dc, units, invert);
+}
+
 // The window is part of the host's call and not needed: the area comes with the mapping.
 void DrawOnlyCurve(PCurve* curve, CWnd*, CDC* dc, Units* units, SFont& labelFont, int current,
                    int invert, int markAll, double sx, double sy, CRect& area, LONGLONG wx,

@@ -37,6 +37,22 @@ void DrawOnlyCurve(PMCurve* curve, CWnd* wnd, CDC* dc, Units* units, SFont& labe
                    int invert, int markAll, double sx, double sy, CRect& area, LONGLONG wx,
                    LONGLONG wy, unsigned long colour, int width);
 
+namespace seisplot {
+// The axes of a whole plot, as DrawOnlyCurve takes them: a displayed value pair (u, w) lands
+// at (wx + u·sx, wy + w·sy) in the drawing area (0, 0)-(area.right, area.top).
+struct PlotAxes {
+    double sx = 0.0;
+    double sy = 0.0;
+    LONGLONG wx = 0;
+    LONGLONG wy = 0;
+    CRect area;
+};
+} // namespace seisplot
+
+// Sets up a fresh context `dc` as DrawCurve does for `curve` in `wnd` and returns the axes
+// DrawCurve draws it on, so that more curves can be drawn on them with DrawOnlyCurve.
+seisplot::PlotAxes CurvePlotAxes(PCurve* curve, CWnd* wnd, CDC* dc, Units* units, int invert);
+
 // A disc of `radius` at `point` (internal units) with its coordinates, on a scale of the
 // curve's own with 0 at the centre of the area; `exchange` draws it with the axes exchanged
 // as well.

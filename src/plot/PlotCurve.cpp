@@ -84,6 +84,34 @@ void TickPasses(const AxisRange& r, double step, LONGLONG origin, double scale, 
     }
 }
 
+// The ranges of both axes and the mapping that puts them in the box.
+struct PlotLayout {
+    AxisRange h;
+    AxisRange v;
+    PlotMapping map;
+};
+
+PlotLayout LayoutOf(const DisplayedCurve& shown, const nbox& box) {
+    const AxisRange h = RangeOf(shown.HMin(), shown.HMax());
+    const AxisRange v = RangeOf(shown.VMin(), shown.VMax());
+    double hSpan = std::fabs(h.high - h.low);
+    double vSpan = std::fabs(v.high - v.low);
+    if (hSpan == 0.0) {
+        hSpan = 1.0;
+    }
+    if (vSpan == 0.0) {
+        vSpan = 100.0;
+    }
+    // Each span fills 0.8 of the box's smaller side; the plot's centre is the box's centre.
+    const double sx = find_conv(hSpan, hSpan, 0.8, 0.8, box.Ddx(), box.Ddy());
+    const double sy = find_conv(vSpan, vSpan, 0.8, 0.8, box.Ddx(), box.Ddy());
+    return {
+        h, v,
+        PlotMapping{sx, sy,
+                    static_cast<LONGLONG>(HalfWidth(box) + box.x0 - (h.low + h.high) / 2.0 * sx),
+                    static_cast<LONGLONG>(HalfHeight(box) + box.y0 - (v.low + v.high) / 2.0 * sy)}};
+}
+
 struct TickLabel {
     char text[300];
     explicit TickLabel(double value) { std::snprintf(text, sizeof text, "%4lG", value); }
@@ -106,22 +134,10 @@ void PlotCurve(const CurveBase& curve, CWnd* wnd, CDC* dc, int fill, const Units
     }
 
     const DisplayedCurve shown(curve, units, invert != 0);
-    const AxisRange h = RangeOf(shown.HMin(), shown.HMax());
-    const AxisRange v = RangeOf(shown.VMin(), shown.VMax());
-    double hSpan = std::fabs(h.high - h.low);
-    double vSpan = std::fabs(v.high - v.low);
-    if (hSpan == 0.0) {
-        hSpan = 1.0;
-    }
-    if (vSpan == 0.0) {
-        vSpan = 100.0;
-    }
-    // Each span fills 0.8 of the box's smaller side; the plot's centre is the box's centre.
-    const double sx = find_conv(hSpan, hSpan, 0.8, 0.8, box.Ddx(), box.Ddy());
-    const double sy = find_conv(vSpan, vSpan, 0.8, 0.8, box.Ddx(), box.Ddy());
-    const PlotMapping map{
-        sx, sy, static_cast<LONGLONG>(HalfWidth(box) + box.x0 - (h.low + h.high) / 2.0 * sx),
-        static_cast<LONGLONG>(HalfHeight(box) + box.y0 - (v.low + v.high) / 2.0 * sy)};
+    const PlotLayout layout = LayoutOf(shown, box);
+    const AxisRange& h = layout.h;
+    const AxisRange& v = layout.v;
+    const PlotMapping& map = layout.map;
 
     line(dc, map.At(h.low, v.crossing), map.At(h.high, v.crossing), 0, kAxisWidth);
     line(dc, map.At(h.crossing, v.low), map.At(h.crossing, v.high), 0, kAxisWidth);
@@ -129,7 +145,7 @@ void PlotCurve(const CurveBase& curve, CWnd* wnd, CDC* dc, int fill, const Units
     const LONG bDev = map.Y(v.crossing); // the horizontal axis
 
     const double labelAngle = -std::asin(1.0); // hanging below the axis
-    TickPasses(h, TickStep(hStep, h), map.wx, sx, [&](double t, LONG x) {
+    TickPasses(h, TickStep(hStep, h), map.wx, map.sx, [&](double t, LONG x) {
         if (vGrid) {
             line(dc, CPoint(x, map.Y(v.low)), CPoint(x, map.Y(v.high)), 0, kTickWidth);
         } else {
@@ -142,7 +158,7 @@ void PlotCurve(const CurveBase& curve, CWnd* wnd, CDC* dc, int fill, const Units
 
     TEXTMETRICA metrics;
     dc->GetTextMetrics(&metrics);
-    TickPasses(v, TickStep(vStep, v), map.wy, sy, [&](double t, LONG y) {
+    TickPasses(v, TickStep(vStep, v), map.wy, map.sy, [&](double t, LONG y) {
         if (hGrid) {
             line(dc, CPoint(map.X(h.low), y), CPoint(map.X(h.high), y), 0, kTickWidth);
         } else {
@@ -168,8 +184,8 @@ void PlotCurve(const CurveBase& curve, CWnd* wnd, CDC* dc, int fill, const Units
         outx(dc, shown.HTitle().GetString(), map.X(h.high), bDev, axisFont, 0.0);
     }
 
-    PlotOnlyCurve(curve, dc, units, labelFont, current, invert, markAll, sx, sy, area, map.wx,
-                  map.wy, colour, width);
+    PlotOnlyCurve(curve, dc, units, labelFont, current, invert, markAll, map.sx, map.sy, area,
+                  map.wx, map.wy, colour, width);
 
     OutTextCentered(dc, curve.GetName().GetString(), HalfWidth(box) + box.x0, box.y0, 0, titleFont);
 
@@ -177,6 +193,13 @@ void PlotCurve(const CurveBase& curve, CWnd* wnd, CDC* dc, int fill, const Units
     const int m = UnitsPerMillimetre(dc);
     const int size = static_cast<int>(std::min(box.Idx(), box.Idy()) * 72 / 48 / 25.4 / m);
     OutTextCentered(dc, kProductLine, area.right - m, area.top / 2, 900, SFont(size, 0));
+}
+
+PlotAxes CurveAxes(const CurveBase& curve, CWnd* wnd, CDC* dc, const Units* units, int invert) {
+    const CRect area = SetUpDrawingArea(wnd, dc);
+    const PlotMapping map =
+        LayoutOf(DisplayedCurve(curve, units, invert != 0), nbox(0, 0, area.right, area.top)).map;
+    return {map.sx, map.sy, map.wx, map.wy, area};
 }
 
 } // namespace seisplot

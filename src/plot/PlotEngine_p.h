@@ -7,6 +7,7 @@
 #include "host/Units.h"
 #include "platform/gdi/CDC.h"
 #include "platform/gdi/CWnd.h"
+#include "plot/CurvePlot.h"
 
 namespace seisplot {
 
@@ -14,6 +15,8 @@ void PlotCurve(const CurveBase& curve, CWnd* wnd, CDC* dc, int fill, const Units
                const SFont& titleFont, const SFont& axisFont, const SFont& labelFont, int current,
                int invert, int markAll, int tickLabels, unsigned long colour, int width, int hGrid,
                int vGrid, double hStep, double vStep);
+
+PlotAxes CurveAxes(const CurveBase& curve, CWnd* wnd, CDC* dc, const Units* units, int invert);
 
 void PlotOnlyCurve(const CurveBase& curve, CDC* dc, const Units* units, const SFont& labelFont,
                    int current, int invert, int markAll, double sx, double sy, const CRect& area,

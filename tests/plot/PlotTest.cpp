@@ -326,3 +326,30 @@ TEST(CurvePlot, PointMarkedInBothViewsWhenExchanged) {
                     CPoint(static_cast<int>(kCentreX + big), static_cast<int>(kCentreY + small))));
     EXPECT_THAT(p.Texts(), Contains("(   5.00e+00,   5.00e+00)"));
 }
+
+TEST(CurvePlot, AxesOfAPlotCarryMoreCurvesOntoIt) {
+    // DrawOnlyCurve on the axes CurvePlotAxes gives draws the curve where DrawCurve drew it,
+    // on a curve whose values are not centred on zero, in the user's units.
+    PCurve curve = CurveOf({{2.0, 1500.0}, {5.0, -400.0}, {9.5, 2600.0}, {11.0, 900.0}});
+    curve.XUnit = seisplot::UnitKind::Time;
+    curve.YUnit = seisplot::UnitKind::Acceleration;
+    Units units;
+    Plot whole;
+    whole.Draw(curve, &units);
+    Plot overlay;
+    CDC& dc = overlay.dc;
+    seisplot::PlotAxes axes = CurvePlotAxes(&curve, &overlay.wnd, &dc, &units, 0);
+    DrawOnlyCurve(&curve, &overlay.wnd, &dc, &units, overlay.labels, 0, 0, 0, axes.sx, axes.sy,
+                  axes.area, axes.wx, axes.wy, 0xFF0000, kCurveWidth);
+    const auto points = [](const std::vector<DrawCall>& lines) {
+        std::vector<CPoint> found;
+        for (const DrawCall& line : lines) {
+            found.push_back(line.device[0]);
+            found.push_back(line.device[1]);
+        }
+        return found;
+    };
+    ASSERT_EQ(overlay.Lines(kCurveWidth).size(), 3u);
+    EXPECT_EQ(points(overlay.Lines(kCurveWidth)), points(whole.Lines(kCurveWidth)));
+    EXPECT_EQ(axes.area, CRect(0, kCentreY * 2, kCentreX * 2, 0));
+}

@@ -10,6 +10,7 @@
 #include <QRegion>
 
 #include <cstdlib>
+#include <cstring>
 
 namespace seisplot {
 namespace {
@@ -181,6 +182,17 @@ private:
     void Blit(const DrawCall& call) {
         QPoint at;
         const QImage piece = BlitPicture(call, at);
+        // A copy into a colour picture clipped to one rectangle copies whole row spans.
+        if (call.rop == SRCCOPY && !m_pixels->monochrome && m_oneRect) {
+            const QRect target = QRect(at, piece.size()) & m_bounds;
+            for (int y = target.top(); y <= target.bottom(); ++y) {
+                std::memcpy(m_pixels->image.scanLine(y) + std::ptrdiff_t{4} * target.left(),
+                            piece.constScanLine(y - at.y()) +
+                                std::ptrdiff_t{4} * (target.left() - at.x()),
+                            std::size_t{4} * static_cast<std::size_t>(target.width()));
+            }
+            return;
+        }
         const int rop = call.rop == SRCINVERT ? R2_XORPEN : R2_COPYPEN;
         for (int y = 0; y < piece.height(); ++y) {
             const auto* src = reinterpret_cast<const QRgb*>(piece.constScanLine(y));

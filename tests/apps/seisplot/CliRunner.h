@@ -1,8 +1,8 @@
 #pragma once
-// Runs the built seisplot program (its path is SEISPLOT_CLI) with standard input from
-// /dev/null, and collects its exit status, standard output and error stream. The error
-// stream goes to a file, or to a terminal (a pseudo-terminal the test reads), where the
-// program draws its progress bars.
+// Runs the built seisplot program (its path is SEISPLOT_CLI; SEISPLOT_PROGRAM names another)
+// with standard input from /dev/null, and collects its exit status, standard output and error
+// stream. The error stream goes to a file, or to a terminal (a pseudo-terminal the test
+// reads), where the program draws its progress bars.
 
 #include <gtest/gtest.h>
 
@@ -20,6 +20,11 @@
 #include <vector>
 
 extern char** environ;
+
+// The program run: the seisplot tool unless a test suite names another.
+#ifndef SEISPLOT_PROGRAM
+#define SEISPLOT_PROGRAM SEISPLOT_CLI
+#endif
 
 namespace seisplot::test {
 
@@ -45,7 +50,7 @@ public:
                 terminal = ::ptsname(m_terminal);
             }
         }
-        std::vector<std::string> all = {SEISPLOT_CLI};
+        std::vector<std::string> all = {SEISPLOT_PROGRAM};
         all.insert(all.end(), args.begin(), args.end());
         std::vector<char*> argv;
         for (std::string& arg : all) {

@@ -1,6 +1,7 @@
 // The device context: mapping, state, pixels of lines and figures, raster operations,
 // clipping, blits, text placement, object accounting and the document surfaces.
 
+#include "platform/gdi/BitmapBits.h"
 #include "platform/gdi/CDC.h"
 #include "platform/gdi/CWnd.h"
 #include "platform/gdi/DocumentDC.h"
@@ -202,6 +203,17 @@ TEST(DeviceContext, BlitsCopyAndInvertWithFlips) {
     target.dc.BitBlt(2, 2, 4, 2, &source.dc, 0, 0, SRCCOPY);
     EXPECT_EQ(target.dc.GetPixel(2, 2), kRed);
     EXPECT_EQ(target.dc.GetPixel(5, 3), 0x00FF00u);
+    // Only what lies inside the picture and the clip region is copied.
+    target.dc.BitBlt(-3, 7, 4, 2, &source.dc, 0, 0, SRCCOPY);
+    EXPECT_EQ(target.dc.GetPixel(0, 7), kWhite);
+    target.dc.BitBlt(5, 6, 4, 2, &source.dc, 0, 0, SRCCOPY);
+    EXPECT_EQ(target.dc.GetPixel(5, 6), kRed);
+    EXPECT_EQ(target.dc.GetPixel(7, 7), kWhite);
+    target.dc.IntersectClipRect(0, 0, 4, 8);
+    target.dc.BitBlt(3, 4, 4, 2, &source.dc, 0, 0, SRCCOPY);
+    EXPECT_EQ(target.dc.GetPixel(3, 4), kRed);
+    EXPECT_EQ(target.dc.GetPixel(6, 5), kWhite);
+    target.dc.SelectClipRgn(nullptr);
     // Inverting with white turns white black; twice restores it.
     target.dc.BitBlt(2, 2, 4, 2, &source.dc, 0, 0, SRCINVERT);
     EXPECT_EQ(target.dc.GetPixel(3, 2), 0u);
@@ -374,6 +386,32 @@ TEST(DeviceContext, WindowsAndDocuments) {
     const std::string svgText = dir.Read("picture.svg");
     EXPECT_NE(svgText.find("<svg"), std::string::npos);
     EXPECT_NE(svgText.find("viewBox=\"0 0 200 100\""), std::string::npos);
+}
+
+TEST(DeviceContext, BitmapBitsComeAsBottomUpDibRows) {
+    // Three pixels wide: a 24-bit row of 9 bytes is padded to 12.
+    Canvas c(3, 2);
+    c.dc.SetPixel(0, 0, RGB(1, 2, 3)); // top-left
+    c.dc.SetPixel(2, 1, RGB(7, 8, 9)); // bottom-right
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
+    EXPECT_EQ(GetDIBits(&c.dc, &c.bitmap, 0, 0, nullptr, &info, DIB_RGB_COLORS), 2);
+    EXPECT_EQ(info.bmiHeader.biWidth, 3);
+    EXPECT_EQ(info.bmiHeader.biHeight, 2);
+    EXPECT_EQ(info.bmiHeader.biBitCount, 32);
+    EXPECT_EQ(info.bmiHeader.biSizeImage, 24u);
+
+    std::vector<BYTE> rows(24, 0xAA);
+    info.bmiHeader.biBitCount = 24;
+    EXPECT_EQ(GetDIBits(&c.dc, &c.bitmap, 0, 2, rows.data(), &info, DIB_RGB_COLORS), 2);
+    EXPECT_EQ(rows, (std::vector<BYTE>{0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 9,    8,
+                                       7,    0xAA, 0xAA, 0xAA, 3,    2,    1,    0xFF,
+                                       0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xAA, 0xAA, 0xAA}));
+    info.bmiHeader.biBitCount = 32;
+    EXPECT_EQ(GetDIBits(&c.dc, &c.bitmap, 1, 1, rows.data(), &info, DIB_RGB_COLORS), 1);
+    EXPECT_EQ(std::vector<BYTE>(rows.begin(), rows.begin() + 4),
+              (std::vector<BYTE>{3, 2, 1, 0xFF}));
+    EXPECT_EQ(GetDIBits(nullptr, &c.bitmap, 0, 2, rows.data(), &info, DIB_RGB_COLORS), 0);
 }
 
 } // namespace
