@@ -2,6 +2,7 @@
 
 #include "host/VarMan.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -75,24 +76,21 @@ FormulaOutcome ApplyCurveFormula(const std::array<FormulaSlot, kFormulaSlots>& s
         }
     }
     const bool onX = axis == FormulaAxis::X;
-    // Each variable's values, displayed, for every point at once.
+    // Each variable's values, displayed, for every point; the formula over all of them at once.
     VarMan vars;
-    std::vector<std::vector<double>> columns(kFormulaSlots);
-    std::vector<const double*> data;
-    for (int s = 0; s < kFormulaSlots; ++s) {
-        const CurveBase* curve = slots[static_cast<size_t>(s)].curve;
-        std::vector<double>& column = columns[static_cast<size_t>(s)];
-        column.assign(static_cast<size_t>(n), 0.0);
+    std::vector<std::vector<double>> columns(slots.size());
+    std::vector<double*> data;
+    for (size_t s = 0; s < slots.size(); ++s) {
+        std::vector<double>& column = columns[s];
+        column.assign(static_cast<size_t>(std::max(n, 1)), 0.0);
+        const CurveBase* curve = slots[s].curve;
         const UnitKind kind = curve == nullptr ? UnitKind{} : onX ? curve->XUnit : curve->YUnit;
-        if (curve != nullptr) {
-            for (int k = 0; k < n; ++k) {
-                const RPoint2D& point = (*curve)[k];
-                column[static_cast<size_t>(k)] =
-                    ToDisplayedUnits(units, kind, onX ? point.GetX() : point.GetY());
-            }
+        for (int k = 0; curve != nullptr && k < n; ++k) {
+            const RPoint2D& point = (*curve)[k];
+            column[static_cast<size_t>(k)] =
+                ToDisplayedUnits(units, kind, onX ? point.GetX() : point.GetY());
         }
-        vars.AddVar(slots[static_cast<size_t>(s)].variable.GetString(), 0.0,
-                    static_cast<int>(kind));
+        vars.AddVar(slots[s].variable.GetString(), 0.0, static_cast<int>(kind));
         data.push_back(column.data());
     }
     std::string text = formula.GetString();
@@ -101,6 +99,7 @@ FormulaOutcome ApplyCurveFormula(const std::array<FormulaSlot, kFormulaSlots>& s
     if (vars.EvaluateRows(text.c_str(), n, data, values.data()) != 0) {
         return FormulaOutcome::ExpressionError;
     }
+    result.GetPColl().Reserve(result.GetNP() + n);
     for (int k = 0; k < n; ++k) {
         const double computed = ToInternalUnits(units, resultKind, values[static_cast<size_t>(k)]);
         const RPoint2D& kept = (*a)[k];

@@ -73,35 +73,32 @@ std::unique_ptr<CompiledFormula> Compile(const std::string& text,
 
 } // namespace
 
-int VarMan::EvaluateRows(const char* formula, int rows, const std::vector<const double*>& columns,
+int VarMan::EvaluateRows(const char* formula, int rows, const std::vector<double*>& columns,
                          double* results) const {
-    if (formula == nullptr || columns.size() != m_vars.size() || rows < 0) {
+    if (formula == nullptr || rows < 0 || columns.size() != m_vars.size()) {
         return 1;
     }
-    try {
-        // The parser reads (and an assignment in the formula would write) its own copies; with
-        // no row, one zero each, so that the formula is still checked.
-        const size_t length = rows > 0 ? static_cast<size_t>(rows) : 1;
-        std::vector<std::vector<double>> copies(m_vars.size(), std::vector<double>(length, 0.0));
-        std::vector<double*> values;
-        for (size_t i = 0; i < m_vars.size(); ++i) {
-            if (rows > 0) {
-                copies[i].assign(columns[i], columns[i] + rows);
-            }
-            values.push_back(copies[i].data());
+    // Without rows the formula is still checked, over one zero for each variable.
+    std::vector<double> zeros(m_vars.size(), 0.0);
+    std::vector<double*> values = columns;
+    if (rows == 0) {
+        for (size_t i = 0; i < zeros.size(); ++i) {
+            values[i] = &zeros[i];
         }
+    }
+    try {
         mu::Parser parser;
         if (!Setup(parser, formula, m_vars, values)) {
             return 1;
         }
+        // Parsing happens at the first evaluation; one row tells a formula of several results.
         parser.Eval();
         if (parser.GetNumResults() != 1) {
             return 1;
         }
-        if (rows == 0) {
-            return 0;
+        if (rows > 0) {
+            parser.Eval(results, rows);
         }
-        parser.Eval(results, rows);
     } catch (const mu::Parser::exception_type&) {
         return 1;
     }

@@ -45,11 +45,12 @@ public:
     // and cursor untouched, for a syntax error, an unknown or misnamed variable, a name
     // given twice, several results, or a result that is not a finite number.
     int expression(char** cursor, Variable* result) const;
-    // The same formula for `rows` rows at once (muParser's bulk evaluation): variable i, in the
-    // order added, takes columns[i][r] in row r, and results[r] receives the value. Non-zero
-    // for the errors of expression, or when any row's value is not a finite number; results
-    // are then unspecified.
-    int EvaluateRows(const char* formula, int rows, const std::vector<const double*>& columns,
+    // The same formula for `rows` rows at once, with muParser's bulk evaluation: variable i, in
+    // the order added, takes columns[i][r] in row r, and results[r] receives the value. The
+    // same errors as expression, and non-zero when any row's value is not a finite number
+    // (results are then unspecified). A formula that assigns to a variable writes into its
+    // column, so the columns are the caller's scratch.
+    int EvaluateRows(const char* formula, int rows, const std::vector<double*>& columns,
                      double* results) const;
 
 private:

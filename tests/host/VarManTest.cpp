@@ -2,9 +2,12 @@
 // touching the result.
 
 #include "host/VarMan.h"
+#include "host/CurveFormula.h"
+#include "host/PCurve.h"
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <numbers>
 #include <string>
@@ -77,4 +80,44 @@ TEST(VarManTest, DeleteBlanksRemovesEveryBlankInPlace) {
     char empty[] = "   ";
     VarMan::DeleteBlanks(empty);
     EXPECT_STREQ(empty, "");
+}
+
+TEST(VarManTest, CurveFormulasGiveEveryPointTheValueOfThePointByPointEvaluation) {
+    const int n = 5000;
+    PCurve a;
+    PCurve b;
+    a.XUnit = b.XUnit = seisplot::UnitKind::Time;
+    a.YUnit = b.YUnit = seisplot::UnitKind::Length;
+    for (int k = 0; k < n; ++k) {
+        a.AddPoint(0.01 * k, 1000.0 * std::sin(0.01 * k));
+        b.AddPoint(0.01 * k, 250.0 + k);
+    }
+    std::array<seisplot::FormulaSlot, seisplot::kFormulaSlots> slots{
+        {{&a, "A"}, {&b, "B"}, {nullptr, "C"}, {nullptr, "D"}, {nullptr, "E"}, {nullptr, "F"}}};
+    Units cm;
+    cm.SetL(10.0);
+    PCurve result;
+    ASSERT_EQ(seisplot::ApplyCurveFormula(slots, "A^2 - B/3 + C", seisplot::FormulaAxis::Y,
+                                          seisplot::UnitKind::Surface, cm, result),
+              seisplot::FormulaOutcome::Done);
+    ASSERT_EQ(result.GetNP(), n);
+    for (int k = 0; k < n; k += 997) {
+        VarMan vars;
+        vars.AddVar("A", cm.L_U(a[k].GetY()), 1);
+        vars.AddVar("B", cm.L_U(b[k].GetY()), 1);
+        vars.AddVar("C", 0.0, 0);
+        char formula[] = "A^2-B/3+C";
+        char* cursor = formula;
+        Variable value;
+        ASSERT_EQ(vars.expression(&cursor, &value), 0);
+        EXPECT_EQ(result[k].GetY(), cm.A_M(value.GetAsDouble())) << k; // cm² back to mm²
+        EXPECT_EQ(result[k].GetX(), a[k].GetX());
+    }
+    // A value that is not finite at the last point: nothing is appended.
+    b[n - 1].SetY(0.0);
+    PCurve refused;
+    EXPECT_EQ(seisplot::ApplyCurveFormula(slots, "A/B", seisplot::FormulaAxis::Y,
+                                          seisplot::UnitKind::Length, cm, refused),
+              seisplot::FormulaOutcome::ExpressionError);
+    EXPECT_EQ(refused.GetNP(), 0);
 }
