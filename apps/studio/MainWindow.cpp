@@ -54,6 +54,17 @@ bool HasFirstPoint(const RPoly& polygon) {
     return false;
 }
 
+// The curve display dialog on a collection file; the dialog saves a changed collection back to
+// the file, after asking.
+template <class Display> void ShowCollectionFile(const QString& path, Units& units) {
+    const QByteArray file = path.toLocal8Bit();
+    Display dialog;
+    dialog.UnitSystem = &units;
+    dialog.Path = file.constData();
+    dialog.Coll.ReadFromFile(file.constData());
+    dialog.DoModal();
+}
+
 } // namespace
 
 MainWindow::MainWindow() : m_panel(new QTreeWidget), m_view(new PlotView) {
@@ -119,6 +130,7 @@ void MainWindow::BuildMenus() {
     add(curves, "copyToCurves", tr("Copy the selected &record or spectrum to the curves"),
         [this] { CopySelectedToCurves(); });
     curves->addSeparator();
+    add(curves, "openCurveFile", tr("&Open a curve file..."), [this] { OpenCurveFile(); });
     add(curves, "showCurves", tr("Curve &display..."), [this] { ShowCurves(); });
     add(curves, "mixCurves", tr("Curve &mixing..."), [this] { MixCurves(); });
     add(curves, "showPolylines", tr("&Polyline display..."), [this] { ShowPolylines(); });
@@ -430,6 +442,20 @@ void MainWindow::CopySelectedToCurves() {
     }
     Refresh();
     SelectItem(QStringLiteral("Curves/%1").arg(m_project.curves.GetPCurveNum()));
+}
+
+void MainWindow::OpenCurveFile() {
+    const QString path =
+        QFileDialog::getOpenFileName(this, tr("Open a curve file"), QFileInfo(m_path).path(),
+                                     tr("Curve collections (*.pcc *.pmc)"));
+    if (path.isEmpty()) {
+        return;
+    }
+    if (QFileInfo(path).suffix().compare(QLatin1String("pmc"), Qt::CaseInsensitive) == 0) {
+        ShowCollectionFile<PrintPMCurve>(path, m_project.units);
+    } else {
+        ShowCollectionFile<PrintPCurve>(path, m_project.units);
+    }
 }
 
 QString MainWindow::CollectionPath(const char* extension) const {

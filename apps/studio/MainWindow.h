@@ -56,6 +56,8 @@ private:
     void BuildTimeFunction();
     // Curves menu: the curve display and mixing dialogs on the project's curves and polylines
     void CopySelectedToCurves();
+    // A curve collection file (*.pcc or *.pmc) in the curve display dialog.
+    void OpenCurveFile();
     void ShowCurves();
     void ShowPolylines();
     void MixCurves();

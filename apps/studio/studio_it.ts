@@ -219,5 +219,17 @@
         <source>A horizontal side has no dy.</source>
         <translation>Un lato orizzontale non ha dy.</translation>
     </message>
+    <message>
+        <source>&amp;Open a curve file...</source>
+        <translation>&amp;Apri un file di curve...</translation>
+    </message>
+    <message>
+        <source>Open a curve file</source>
+        <translation>Apri un file di curve</translation>
+    </message>
+    <message>
+        <source>Curve collections (*.pcc *.pmc)</source>
+        <translation>Raccolte di curve (*.pcc *.pmc)</translation>
+    </message>
 </context>
 </TS>
