@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "PolygonSides.h"
+#include "StructureWindow.h"
 #include "host/dialogs/CoordinateDialogs.h"
 #include "platform/core/Product.h"
 #include "platform/core/UserInterface.h"
@@ -90,6 +91,9 @@ void MainWindow::BuildMenus() {
     geometry->addSeparator();
     add(geometry, "clearPolygon", tr("&Clear the polygon"), [this] { ClearPolygon(); });
 
+    QMenu* view = menuBar()->addMenu(tr("&View"));
+    add(view, "showStructure", tr("&Structure in GDI and OpenGL..."), [this] { ShowStructure(); });
+
     QMenu* settings = menuBar()->addMenu(tr("&Settings"));
     add(settings, "chooseUnits", tr("&Units..."), [this] { ChooseUnits(); });
     add(settings, "titleFont", tr("Plot &title font..."),
@@ -142,6 +146,9 @@ void MainWindow::Refresh() {
     m_panel->expandAll();
     if (!SelectItem(selected)) {
         ShowSelected();
+    }
+    if (m_structure != nullptr) {
+        m_structure->Redraw();
     }
 }
 
@@ -327,6 +334,16 @@ void MainWindow::AddArc() {
 void MainWindow::ClearPolygon() {
     m_project.polygon.Clear();
     Refresh();
+}
+
+void MainWindow::ShowStructure() {
+    if (m_structure == nullptr) {
+        m_structure = new StructureWindow(m_project.polygon, this);
+        m_structure->setWindowFlag(Qt::Window);
+        m_structure->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    m_structure->show();
+    m_structure->raise();
 }
 
 void MainWindow::ChooseUnits() {

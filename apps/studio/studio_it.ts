@@ -158,5 +158,20 @@
         <source>&lt;b&gt;seisplot studio&lt;/b&gt;&lt;p&gt;%1&lt;/p&gt;&lt;p&gt;The desktop application that holds a project of records, spectra, curves and a polygon, and opens the library's dialogs on it.&lt;/p&gt;</source>
         <translation>&lt;b&gt;seisplot studio&lt;/b&gt;&lt;p&gt;%1&lt;/p&gt;&lt;p&gt;L'applicazione desktop che contiene un progetto di registrazioni, spettri, curve e un poligono, e vi apre le finestre di dialogo della libreria.&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Visualizza</translation>
+    </message>
+    <message>
+        <source>&amp;Structure in GDI and OpenGL...</source>
+        <translation>&amp;Struttura in GDI e OpenGL...</translation>
+    </message>
+</context>
+<context>
+    <name>seisplot::studio::StructureWindow</name>
+    <message>
+        <source>Structure: GDI and OpenGL</source>
+        <translation>Struttura: GDI e OpenGL</translation>
+    </message>
 </context>
 </TS>
