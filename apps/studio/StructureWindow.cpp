@@ -1,5 +1,6 @@
 #include "StructureWindow.h"
 
+#include "PlotView.h"
 #include "StructureDrawing.h"
 
 #include "platform/gl/CurrentDevice.h"
@@ -8,8 +9,6 @@
 
 #include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QImage>
-#include <QPainter>
 #include <QScreen>
 #include <QSurfaceFormat>
 
@@ -49,11 +48,7 @@ GdiStructureView::GdiStructureView(const RPoly& polygon, QWidget* parent)
 }
 
 void GdiStructureView::paintEvent(QPaintEvent*) {
-    const PictureBits bits = m_window.Bits();
-    const QImage picture(bits.data, bits.width, bits.height, bits.bytesPerLine,
-                         QImage::Format_RGB32);
-    QPainter painter(this);
-    painter.drawImage(0, 0, picture);
+    PaintWindowPicture(this, m_window);
 }
 
 void GdiStructureView::resizeEvent(QResizeEvent*) {
