@@ -42,7 +42,7 @@ int PixelHeight(HDC dc, const LOGFONTA& font) {
     return font.lfHeight < 0 ? -std::abs(size.cy) : std::abs(size.cy);
 }
 
-// A GLU tessellator that writes filled polygons into the display list being compiled.
+// A GLU tessellator that writes filled triangles into the display list being compiled.
 class OutlineTessellator {
 public:
     OutlineTessellator() : m_tess(gluNewTess()) {
@@ -50,6 +50,10 @@ public:
         gluTessCallback(m_tess, GLU_TESS_VERTEX, reinterpret_cast<_GLUfuncptr>(&glVertex3dv));
         gluTessCallback(m_tess, GLU_TESS_END, reinterpret_cast<_GLUfuncptr>(&glEnd));
         gluTessCallback(m_tess, GLU_TESS_COMBINE_DATA, reinterpret_cast<_GLUfuncptr>(&Combine));
+        // With edge flags the tessellator gives separate triangles, each edge marked as on the
+        // outline or inside: no fans, which Mesa's list compiler loses memory over when two
+        // follow each other, and in GL_LINE mode a glyph shows its outline alone.
+        gluTessCallback(m_tess, GLU_TESS_EDGE_FLAG, reinterpret_cast<_GLUfuncptr>(&glEdgeFlag));
         gluTessProperty(m_tess, GLU_TESS_WINDING_RULE, GLU_TESS_WINDING_NONZERO);
         gluTessNormal(m_tess, 0.0, 0.0, 1.0);
     }

@@ -184,6 +184,7 @@ TEST(Ogl, InvertingTwinsDrawnTwiceRestoreThePicture) {
         EXPECT_EQ(c.gl.Pixels(), before) << "twin " << i;
     }
     EXPECT_FALSE(glIsEnabled(GL_COLOR_LOGIC_OP));
+    CloseFontOGL(base);
 }
 
 TEST(Ogl, TextStartsAtThePointInBothFontKinds) {
@@ -197,6 +198,7 @@ TEST(Ogl, TextStartsAtThePointInBothFontKinds) {
         EXPECT_EQ(ink.bottom, 40); // the baseline
         EXPECT_GE(ink.left, 50);
         EXPECT_LE(ink.left, 52); // the letter's left bearing
+        CloseFontOGL(base);
     }
     {
         GLCanvas c;
@@ -211,6 +213,7 @@ TEST(Ogl, TextStartsAtThePointInBothFontKinds) {
         EXPECT_LE(ink.left, 54);
         // DejaVu Sans capitals are 1493/2048 of the em high.
         EXPECT_NEAR(ink.top - ink.bottom + 1, 30 * 1493.0 / 2048, 1.0);
+        CloseFontOGL(base);
     }
     SFont twelve(12, 0);
     GLCanvas c;
@@ -218,6 +221,7 @@ TEST(Ogl, TextStartsAtThePointInBothFontKinds) {
     double size = 0.0;
     InitializeFontOGL(twelve, &base, &size);
     EXPECT_NEAR(size, 423.33, 0.005);
+    CloseFontOGL(base);
 }
 
 TEST(Ogl, ClosingAFontFreesAllItsListsAndNoOther) {
@@ -253,6 +257,7 @@ TEST(Ogl, ClosingAFontFreesAllItsListsAndNoOther) {
         InitializeFontOGL(font, &base);
         CloseFontOGL(outline);
         EXPECT_EQ(lists(outline, 256), 0);
+        CloseFontOGL(base);
     }
     c.gl.MakeCurrent();
     EXPECT_EQ(lists(outline, 256), 256);
