@@ -66,8 +66,9 @@ double Degrees(double radians) {
     return radians * 180 / std::numbers::pi;
 }
 
-// A legend swatch: the two halves, a white middle `inner` wide either side of the centre and
-// S/4 high either side, the label and (when given) the number, in black.
+// A legend swatch of side S: the two halves, a white middle reaching `innerEighths` eighths of
+// S either side of the centre and S/4 above and below it, the label and (when given) the
+// number, in black.
 void Swatch(unsigned long left, unsigned long right, const CString& label, CPoint centre, int size,
             int innerEighths, int base, std::optional<unsigned int> number, int numberBase) {
     const int s = size * 100;
