@@ -9,6 +9,7 @@ extern "C" const char* __lsan_default_suppressions() {
 #if defined(__SANITIZE_ADDRESS__)
 #include <dlfcn.h>
 
+#include <cstdlib>
 #include <string>
 
 namespace {
@@ -31,6 +32,9 @@ bool KeepMesaLoaded() {
 }
 
 const bool kMesaKept = KeepMesaLoaded();
+// Nor does Mesa keep a shader cache on disk: its writer thread, busy when the studio ends,
+// trips LeakSanitizer's final search.
+const int kNoShaderCache = setenv("MESA_SHADER_CACHE_DISABLE", "true", 0);
 
 } // namespace
 #endif
