@@ -11,6 +11,7 @@ packages=(
     libhwy-dev libmuparser-dev
     qt6-base-dev qt6-svg-dev qt6-qpa-plugins qt6-tools-dev qt6-l10n-tools libqt6opengl6-dev
     libavformat-dev libavcodec-dev libswscale-dev libavutil-dev ffmpeg
+    libgl-dev libegl1-mesa-dev libglu1-mesa-dev libgl1-mesa-dri
     xvfb xauth imagemagick
     fonts-dejavu-core fonts-liberation2
 )

@@ -33,6 +33,9 @@
 #include "platform/gdi/GdiObjects.h"
 #include "platform/gdi/RecordingDC.h"
 #include "platform/gl/CurrentDevice.h"
+#include "platform/gl/FontDisplayLists.h"
+#include "platform/gl/GLDeviceDC.h"
+#include "platform/gl/HeadlessGLContext.h"
 
 // The host's geometry, units, selection and numerics
 #include "host/Boxes.h"
@@ -69,6 +72,11 @@
 #include "draw/gdi/Lines.h"
 #include "draw/gdi/Symbols.h"
 #include "draw/gdi/Text.h"
+#include "draw/ogl/AreasOGL.h"
+#include "draw/ogl/ArrowsOGL.h"
+#include "draw/ogl/LinesOGL.h"
+#include "draw/ogl/SymbolsOGL.h"
+#include "draw/ogl/TextOGL.h"
 
 // Curve plots
 #include "plot/CurvePlot.h"

@@ -1,6 +1,7 @@
 #include "Automation.h"
 
 #include "MainWindow.h"
+#include "StructureWindow.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -165,6 +166,14 @@ bool RunSteps(MainWindow& window, const AutomationSteps& steps) {
         qApp->removeEventFilter(&witness);
         if (!witness.Seen()) {
             return Fail(steps.dialogAction + " opened no dialog");
+        }
+    }
+    if (!steps.structureShot.isEmpty()) {
+        window.findChild<QAction*>("showStructure")->trigger();
+        StructureWindow* structure = window.Structure();
+        WaitUntilShown(structure);
+        if (!structure->grab().save(steps.structureShot, "PNG")) {
+            return Fail("cannot write " + steps.structureShot);
         }
     }
     return true;

@@ -1,7 +1,8 @@
 #pragma once
 // Steps the studio runs by itself when asked on the command line: what its tests and the
 // screenshots of the documentation need (open, import, set the polygon, save, select, open a
-// dialog through its menu, press a button in it, describe and photograph the dialog, quit).
+// dialog through its menu, press a button in it, describe and photograph the dialog,
+// photograph the structure window, quit).
 
 #include <QObject>
 #include <QString>
@@ -14,18 +15,19 @@ namespace seisplot::studio {
 class MainWindow;
 
 struct AutomationSteps {
-    QString project;      // open this project
-    QStringList imports;  // then import these record files
-    QString polygon;      // then make these vertices the polygon: "x,y x,y ..."
-    QString select;       // then select this item of the side panel
-    QStringList actions;  // then trigger these menu actions, which open no dialog
-    QString saveAs;       // then save the project here
-    QString windowShot;   // then photograph the main window
-    QString dialogAction; // then trigger this menu action...
-    int dialogClick = 0;  // ...click this control of its dialog, and take the one it opens...
-    QString dialogReport; // ...describe the dialog it opens in this text file...
-    QString dialogShot;   // ...photograph the screen with it (import -window root)
-    bool quit = false;    // and end, instead of waiting for the user
+    QString project;       // open this project
+    QStringList imports;   // then import these record files
+    QString polygon;       // then make these vertices the polygon: "x,y x,y ..."
+    QString select;        // then select this item of the side panel
+    QStringList actions;   // then trigger these menu actions, which open no dialog
+    QString saveAs;        // then save the project here
+    QString windowShot;    // then photograph the main window
+    QString dialogAction;  // then trigger this menu action...
+    int dialogClick = 0;   // ...click this control of its dialog, and take the one it opens...
+    QString dialogReport;  // ...describe the dialog it opens in this text file...
+    QString dialogShot;    // ...photograph the screen with it (import -window root)
+    QString structureShot; // open the structure window and photograph it
+    bool quit = false;     // and end, instead of waiting for the user
 };
 
 // Runs the steps once the window is on screen; false (after saying why on the error stream)

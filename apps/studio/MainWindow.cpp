@@ -1,5 +1,6 @@
 #include "MainWindow.h"
 
+#include "StructureWindow.h"
 #include "dialogs/curves/CurveDisplay.h"
 #include "dialogs/curves/CurveMixing.h"
 #include "dialogs/polygon/GetPolygon.h"
@@ -136,6 +137,9 @@ void MainWindow::BuildMenus() {
     add(curves, "showPolylines", tr("&Polyline display..."), [this] { ShowPolylines(); });
     add(curves, "mixPolylines", tr("Po&lyline mixing..."), [this] { MixPolylines(); });
 
+    QMenu* view = menuBar()->addMenu(tr("&View"));
+    add(view, "showStructure", tr("&Structure in GDI and OpenGL..."), [this] { ShowStructure(); });
+
     QMenu* settings = menuBar()->addMenu(tr("&Settings"));
     add(settings, "chooseUnits", tr("&Units..."), [this] { ChooseUnits(); });
     add(settings, "titleFont", tr("Plot &title font..."),
@@ -188,6 +192,9 @@ void MainWindow::Refresh() {
     m_panel->expandAll();
     if (!SelectItem(selected)) {
         ShowSelected();
+    }
+    if (m_structure != nullptr) {
+        m_structure->Redraw();
     }
 }
 
@@ -503,6 +510,16 @@ void MainWindow::MixPolylines() {
         m_project.polylines = dialog.Coll;
         Refresh();
     }
+}
+
+void MainWindow::ShowStructure() {
+    if (m_structure == nullptr) {
+        m_structure = new StructureWindow(m_project.polygon, this);
+        m_structure->setWindowFlag(Qt::Window);
+        m_structure->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    m_structure->show();
+    m_structure->raise();
 }
 
 void MainWindow::ChooseUnits() {

@@ -4,8 +4,10 @@
 
 #include "PlotView.h"
 #include "Project.h"
+#include "StructureWindow.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
 class QTreeWidget;
 
@@ -25,6 +27,9 @@ public:
     // Selects the item a path in the side panel names: "Records/2", "Polygon", ...
     bool SelectItem(const QString& path);
     PlotView& View() { return *m_view; }
+    // The window with the structural drawing through both back ends, opened by its menu
+    // action; null until then.
+    StructureWindow* Structure() const { return m_structure; }
 
     // Rebuilds the side panel and redraws the view from the project.
     void Refresh();
@@ -64,6 +69,8 @@ private:
     void MixPolylines();
     // Where the display dialogs save a changed collection: beside the project.
     QString CollectionPath(const char* extension) const;
+    // View menu
+    void ShowStructure();
     // Settings menu
     void ChooseUnits();
     void ChoosePlotFont(SFont& font);
@@ -73,6 +80,7 @@ private:
     QString m_path;
     QTreeWidget* m_panel;
     PlotView* m_view;
+    QPointer<StructureWindow> m_structure;
 };
 
 } // namespace seisplot::studio

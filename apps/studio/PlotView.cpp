@@ -48,12 +48,16 @@ bool PlotView::SavePicture(const QString& path) const {
     return m_window.SavePicture(path.toLocal8Bit().constData(), "PNG");
 }
 
-void PlotView::paintEvent(QPaintEvent*) {
-    const PictureBits bits = m_window.Bits();
+void PaintWindowPicture(QWidget* widget, const CWnd& window) {
+    const PictureBits bits = window.Bits();
     const QImage picture(bits.data, bits.width, bits.height, bits.bytesPerLine,
                          QImage::Format_RGB32);
-    QPainter painter(this);
+    QPainter painter(widget);
     painter.drawImage(0, 0, picture);
+}
+
+void PlotView::paintEvent(QPaintEvent*) {
+    PaintWindowPicture(this, m_window);
 }
 
 void PlotView::resizeEvent(QResizeEvent*) {

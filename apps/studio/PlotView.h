@@ -15,6 +15,9 @@
 
 namespace seisplot::studio {
 
+// Paints the picture of a window of the drawing layer at the top-left corner of `widget`.
+void PaintWindowPicture(QWidget* widget, const CWnd& window);
+
 class PlotView : public QWidget {
 public:
     explicit PlotView(QWidget* parent = nullptr);

@@ -75,9 +75,11 @@ int main(int argc, char** argv) {
                                     "file");
     const QCommandLineOption dialogShot("dialog-screenshot",
                                         "Photograph the screen with that dialog shown.", "png");
+    const QCommandLineOption structureShot(
+        "structure-screenshot", "Open the structure window and write a picture of it.", "png");
     const QCommandLineOption quit("quit", "End after the steps above instead of staying open.");
     parser.addOptions({language, import, polygon, select, action, saveAs, shot, dialog, click,
-                       report, dialogShot, quit});
+                       report, dialogShot, structureShot, quit});
     parser.process(app);
     if (parser.isSet(language)) {
         qputenv("SEISPLOT_LANG", parser.value(language).toLatin1());
@@ -109,6 +111,7 @@ int main(int argc, char** argv) {
     steps.dialogClick = parser.value(click).toInt();
     steps.dialogReport = parser.value(report);
     steps.dialogShot = parser.value(dialogShot);
+    steps.structureShot = parser.value(structureShot);
     steps.quit = parser.isSet(quit);
     if (!seisplot::studio::RunSteps(window, steps)) {
         return 1;

@@ -231,5 +231,20 @@
         <source>Curve collections (*.pcc *.pmc)</source>
         <translation>Raccolte di curve (*.pcc *.pmc)</translation>
     </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Visualizza</translation>
+    </message>
+    <message>
+        <source>&amp;Structure in GDI and OpenGL...</source>
+        <translation>&amp;Struttura in GDI e OpenGL...</translation>
+    </message>
+</context>
+<context>
+    <name>seisplot::studio::StructureWindow</name>
+    <message>
+        <source>Structure: GDI and OpenGL</source>
+        <translation>Struttura: GDI e OpenGL</translation>
+    </message>
 </context>
 </TS>

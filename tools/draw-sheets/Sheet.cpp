@@ -25,7 +25,7 @@ int Cell::Across(double f) const {
 }
 
 Sheet::Sheet(int widthPixels, int heightPixels, int columns, int rows)
-    : m_columns(columns), m_rows(rows) {
+    : m_columns(columns), m_rows(rows), m_widthPixels(widthPixels), m_heightPixels(heightPixels) {
     m_dc.CreateCompatibleDC(nullptr);
     m_bitmap.CreateBitmap(widthPixels, heightPixels, 1, 32, nullptr);
     m_previousBitmap = m_dc.SelectObject(&m_bitmap);
@@ -51,13 +51,24 @@ Sheet::~Sheet() {
 }
 
 Cell Sheet::Next(const char* label) {
-    const int column = m_next % m_columns;
-    const int row = m_next / m_columns;
-    ++m_next;
+    Frame(m_next, label);
+    return Place(m_next++);
+}
+
+Cell Sheet::Place(int index) const {
     const int w = m_width / m_columns;
     const int h = m_height / m_rows;
-    const int left = column * w;
-    const int top = m_height - row * h;
+    const int left = index % m_columns * w;
+    const int top = m_height - index / m_columns * h;
+    return {left + kMargin, top - h + kMargin, left + w - kMargin,
+            top - kMargin - 2 * kLabelHeight};
+}
+
+void Sheet::Frame(int index, const char* label) {
+    const int w = m_width / m_columns;
+    const int h = m_height / m_rows;
+    const int left = index % m_columns * w;
+    const int top = m_height - index / m_columns * h;
 
     CPen frame(PS_SOLID, 0, 0xC8C8C8);
     CPen* previousPen = m_dc.SelectObject(&frame);
@@ -75,9 +86,6 @@ Cell Sheet::Next(const char* label) {
     m_dc.SetTextColor(previousColour);
     m_dc.SetBkMode(previousMode);
     m_dc.SelectObject(previousFont);
-
-    return {left + kMargin, top - h + kMargin, left + w - kMargin,
-            top - kMargin - 2 * kLabelHeight};
 }
 
 void Sheet::Paste(const Cell& cell, CDC& source, int widthPixels, int heightPixels) {
@@ -89,6 +97,23 @@ void Sheet::Paste(const Cell& cell, CDC& source, int widthPixels, int heightPixe
                 SRCCOPY);
     m_dc.SetWindowOrg(origin);
     m_dc.SetMapMode(mode);
+}
+
+void Sheet::Cover(const std::vector<COLORREF>& pixels) {
+    // Blue, green, red and a pad byte a pixel, as a 32-bit bitmap holds them.
+    std::vector<unsigned char> rows(pixels.size() * 4);
+    for (std::size_t i = 0; i < pixels.size(); ++i) {
+        rows[4 * i] = GetBValue(pixels[i]);
+        rows[4 * i + 1] = GetGValue(pixels[i]);
+        rows[4 * i + 2] = GetRValue(pixels[i]);
+    }
+    CBitmap bitmap;
+    bitmap.CreateBitmap(m_widthPixels, m_heightPixels, 1, 32, rows.data());
+    CDC memory;
+    memory.CreateCompatibleDC(&m_dc);
+    CBitmap* previous = memory.SelectObject(&bitmap);
+    Paste(Cell{0, 0, m_width, m_height}, memory, m_widthPixels, m_heightPixels);
+    memory.SelectObject(previous);
 }
 
 int Sheet::Pixels(int logical) const {

@@ -5,6 +5,7 @@
 #include "platform/gdi/CDC.h"
 
 #include <string>
+#include <vector>
 
 namespace drawsheets {
 
@@ -38,8 +39,13 @@ public:
     // Frames the next cell (left to right, top to bottom), writes `label` at its top and
     // returns the area below it.
     Cell Next(const char* label);
+    // The area of cell `index` below its label, and its frame and label drawn.
+    Cell Place(int index) const;
+    void Frame(int index, const char* label);
     // Copies the whole picture of `source` (pixels, y down) to the bottom-left corner of `cell`.
     void Paste(const Cell& cell, CDC& source, int widthPixels, int heightPixels);
+    // Covers the whole sheet with a picture of its size, rows from the top.
+    void Cover(const std::vector<COLORREF>& pixels);
     // The size in pixels of a logical length.
     int Pixels(int logical) const;
     bool Save(const std::string& path) const;
@@ -53,6 +59,8 @@ private:
     int m_rows;
     int m_width; // logical
     int m_height;
+    int m_widthPixels;
+    int m_heightPixels;
     int m_next = 0;
 };
 

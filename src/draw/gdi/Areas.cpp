@@ -1,6 +1,7 @@
 #include "draw/gdi/Areas.h"
 
 #include "draw/gdi/DeviceConventions.h"
+#include "draw/gdi/DeviceFigures_p.h"
 #include "draw/gdi/Lines.h"
 #include "host/RPoly.h"
 
@@ -61,19 +62,6 @@ CBrush* Checkerboard() {
         }
     }
     return &brush;
-}
-
-// Of a square's diagonals, the one that runs with x increasing and y decreasing: its start
-// and end give x1, y1, x2, y2 of the fill.
-bool FallingDiagonal(const CPoint (&ends)[4][2], CPoint& start, CPoint& end) {
-    for (const auto& [a, b] : ends) {
-        if (b.x > a.x && b.y < a.y) {
-            start = a;
-            end = b;
-            return true;
-        }
-    }
-    return false;
 }
 
 } // namespace
@@ -228,8 +216,27 @@ int pie(CDC* dc, unsigned long colour, int style, int x1, int y1, int x2, int y2
     return pie(dc, CPoint(x1, y1), CPoint(x2, y2), CPoint(x3, y3), CPoint(x4, y4), colour, style);
 }
 
-int quart_circl(CDC* dc, unsigned char mode, long ax, long ay, long cx, long cy, long bx, long by,
-                unsigned long firstColour, unsigned long secondColour) {
+namespace seisplot {
+
+namespace {
+
+// Of a square's diagonals, the one that runs with x increasing and y decreasing: its start
+// and end give x1, y1, x2, y2 of the fill.
+bool FallingDiagonal(const CPoint (&ends)[4][2], CPoint& start, CPoint& end) {
+    for (const auto& [a, b] : ends) {
+        if (b.x > a.x && b.y < a.y) {
+            start = a;
+            end = b;
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+void DrawQuarterCircle(Figures& figures, unsigned char mode, long ax, long ay, long cx, long cy,
+                       long bx, long by, unsigned long firstColour, unsigned long secondColour) {
     CPoint a(static_cast<int>(ax), static_cast<int>(ay));
     CPoint b(static_cast<int>(bx), static_cast<int>(by));
     const CPoint q(static_cast<int>(cx), static_cast<int>(cy));
@@ -247,13 +254,22 @@ int quart_circl(CDC* dc, unsigned char mode, long ax, long ay, long cx, long cy,
         const CPoint diagonals[4][2] = {{a, b}, {b, a}, {q, k}, {k, q}};
         CPoint start, end;
         if (FallingDiagonal(diagonals, start, end)) {
-            rectangle(dc, firstColour, kFilled, start.x, start.y, end.x, end.y);
+            // The corners as the coordinate form of rectangle passes them.
+            figures.Rectangle(CPoint(start.x, end.y), CPoint(end.x, start.y), firstColour, kFilled);
         }
         wedgeColour = secondColour;
     }
     const CPoint& from = d.x < q.x ? d : q;
     const CPoint& to = d.x < q.x ? q : d;
-    pie(dc, wedgeColour, kFilled, from.x, from.y, to.x, to.y, b.x, b.y, a.x, a.y);
+    figures.Pie(from, to, b, a, wedgeColour, kFilled);
+}
+
+} // namespace seisplot
+
+int quart_circl(CDC* dc, unsigned char mode, long ax, long ay, long cx, long cy, long bx, long by,
+                unsigned long firstColour, unsigned long secondColour) {
+    seisplot::DeviceFigures figures(dc);
+    seisplot::DrawQuarterCircle(figures, mode, ax, ay, cx, cy, bx, by, firstColour, secondColour);
     return 0;
 }
 

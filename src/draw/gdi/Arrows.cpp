@@ -5,6 +5,7 @@
 
 #include "draw/gdi/Areas.h"
 #include "draw/gdi/DeviceConventions.h"
+#include "draw/gdi/DeviceFigures_p.h"
 #include "draw/gdi/Lines.h"
 #include "host/Boxes.h"
 #include "host/RPoint2D.h"
@@ -48,58 +49,37 @@ double AxisAngle(const RPoint2D& d) {
     return std::atan2(-d.GetY(), d.GetX());
 }
 
-// A filled triangle with the given pen colour and fill colour.
-void FilledTriangle(CDC* dc, const CPoint& a, const CPoint& b, const CPoint& c,
-                    unsigned long lineColour, unsigned long fillColour) {
-    CPen pen;
-    CBrush brush;
-    if (!pen.CreatePen(PS_SOLID, 1, lineColour) || !brush.CreateSolidBrush(fillColour)) {
-        return;
-    }
-    CPen* oldPen = dc->SelectObject(&pen);
-    CBrush* oldBrush = dc->SelectObject(&brush);
-    const POINT corners[3] = {a, b, c};
-    dc->Polygon(corners, 3);
-    dc->SelectObject(oldPen);
-    dc->SelectObject(oldBrush);
-}
-
 } // namespace
 
-int Quote(CDC* dc, unsigned long colour, const CPoint& from, const CPoint& to,
-          unsigned char style) {
+namespace seisplot {
+
+int DrawQuote(Figures& figures, int u, unsigned long colour, const CPoint& from, const CPoint& to,
+              unsigned char style) {
     const int dx = to.x - from.x;
     const int dy = to.y - from.y;
     if (dx == 0 && dy == 0) {
         return 0;
     }
     const double a = std::atan2(static_cast<double>(dy), static_cast<double>(dx));
-    const int u = seisplot::UnitsPerMillimetre(dc);
-    if (u == 0) {
-        return 0;
-    }
     // One millimetre across and two up: the legs' length depends on the direction.
     const CPoint h1(static_cast<int>(u * std::cos(a + kPi / 6)),
                     static_cast<int>(2 * u * std::sin(a + kPi / 6)));
     const CPoint h2(static_cast<int>(u * std::cos(a - kPi / 6)),
                     static_cast<int>(2 * u * std::sin(a - kPi / 6)));
-    line(dc, from, to, colour, 1);
+    figures.Line(from, to, colour, 1);
     if (style == 11 || style == 12) {
-        line(dc, to - h1, to, colour, 1);
-        line(dc, to - h2, to, colour, 1);
+        figures.Line(to - h1, to, colour, 1);
+        figures.Line(to - h2, to, colour, 1);
     }
     if (style == 11) {
-        line(dc, from + h1, from, colour, 1);
-        line(dc, from + h2, from, colour, 1);
+        figures.Line(from + h1, from, colour, 1);
+        figures.Line(from + h2, from, colour, 1);
     }
     return 0;
 }
 
-int Quote(CDC* dc, unsigned long colour, int x1, int y1, int x2, int y2, unsigned char style) {
-    return Quote(dc, colour, CPoint(x1, y1), CPoint(x2, y2), style);
-}
-
-int Arrow(CDC* dc, const CPoint& tail, const CPoint& tip, unsigned long colour, int width) {
+int DrawArrow(Figures& figures, const CPoint& tail, const CPoint& tip, unsigned long colour,
+              int width) {
     const RPoint2D p1 = ToReal(tail);
     const RPoint2D p2 = ToReal(tip);
     const RPoint2D d = p2 - p1;
@@ -108,15 +88,16 @@ int Arrow(CDC* dc, const CPoint& tail, const CPoint& tip, unsigned long colour, 
     }
     const double a = std::atan2(d.GetY(), d.GetX());
     const SideOffsets v = Offsets(a, d.GetNorm() / 10, 1.0);
-    line(dc, tail, tip, colour, width);
+    figures.Line(tail, tip, colour, width);
     const RPoint2D back = (p1 - p2) / 5;
     const CPoint left = Truncated(p2 + v.plus + back);
     const CPoint right = Truncated(p2 + v.minus + back);
-    triangle(dc, colour, 2, tip.x, tip.y, left.x, left.y, right.x, right.y);
+    figures.Triangle(colour, 2, tip, left, right);
     return 0;
 }
 
-int DArrow(CDC* dc, const CPoint& tail, const CPoint& tip, unsigned long colour, int width) {
+int DrawDArrow(Figures& figures, const CPoint& tail, const CPoint& tip, unsigned long colour,
+               int width) {
     const RPoint2D p1 = ToReal(tail);
     const RPoint2D p2 = ToReal(tip);
     const RPoint2D d = p2 - p1;
@@ -126,19 +107,19 @@ int DArrow(CDC* dc, const CPoint& tail, const CPoint& tip, unsigned long colour,
     const SideOffsets v = Offsets(AxisAngle(d), d.GetNorm() / 16, -1.0);
     const CPoint e = Truncated(d * 0.05);
     const CPoint tip2 = Truncated(p1 + d * 0.95);
-    line(dc, tail, tip, colour, width);
+    figures.Line(tail, tip, colour, width);
     const RPoint2D back = (p1 - p2) / 6;
     const CPoint left = Truncated(p2 + v.plus + back);
     const CPoint right = Truncated(p2 + v.minus + back);
-    line(dc, left, tip, colour, width);
-    line(dc, right, tip, colour, width);
-    line(dc, left - e, tip2, colour, width);
-    line(dc, right - e, tip2, colour, width);
+    figures.Line(left, tip, colour, width);
+    figures.Line(right, tip, colour, width);
+    figures.Line(left - e, tip2, colour, width);
+    figures.Line(right - e, tip2, colour, width);
     return 0;
 }
 
-int ArwLine(CDC* dc, nbox* /*view*/, const CPoint& at, const CPoint& direction, unsigned char style,
-            unsigned long lineColour, unsigned long fillColour) {
+int DrawArwLine(Figures& figures, const CPoint& at, const CPoint& direction, unsigned char style,
+                unsigned long lineColour, unsigned long fillColour) {
     if (style > 10) {
         return 0;
     }
@@ -177,20 +158,20 @@ int ArwLine(CDC* dc, nbox* /*view*/, const CPoint& at, const CPoint& direction, 
     const CPoint r = Truncated(tail);
 
     if (style == 0) {
-        line(dc, t, r, 0x000000, 10);
-        line(dc, t, Truncated(tip + v.plus + d / 6), 0x000000, 10);
-        line(dc, t, Truncated(tip + v.minus + d / 6), 0x000000, 10);
+        figures.Line(t, r, 0x000000, 10);
+        figures.Line(t, Truncated(tip + v.plus + d / 6), 0x000000, 10);
+        figures.Line(t, Truncated(tip + v.minus + d / 6), 0x000000, 10);
         return 0;
     }
 
-    FilledTriangle(dc, t, Truncated(axis(1) + v.plus), Truncated(axis(1) + v.minus), lineColour,
-                   fillColour);
+    figures.EdgedTriangle(t, Truncated(axis(1) + v.plus), Truncated(axis(1) + v.minus), lineColour,
+                          fillColour);
     if (style % 2 == 1) {
-        line(dc, r, Truncated(axis(1)), lineColour, 1);
+        figures.Line(r, Truncated(axis(1)), lineColour, 1);
     } else {
-        FilledTriangle(dc, Truncated(axis(1)), Truncated(axis(2) + v.plus),
-                       Truncated(axis(2) + v.minus), lineColour, fillColour);
-        line(dc, r, Truncated(axis(2)), lineColour, 1);
+        figures.EdgedTriangle(Truncated(axis(1)), Truncated(axis(2) + v.plus),
+                              Truncated(axis(2) + v.minus), lineColour, fillColour);
+        figures.Line(r, Truncated(axis(2)), lineColour, 1);
     }
 
     const CPoint m = Truncated((tip + tail) / 2);
@@ -202,14 +183,46 @@ int ArwLine(CDC* dc, nbox* /*view*/, const CPoint& at, const CPoint& direction, 
     case 4:
     case 9:
     case 10:
-        ellipse(dc, low, high, fillColour, 2, 10);
+        figures.Ellipse(low, high, fillColour, 2, 10);
         break;
     case 7:
     case 8:
-        rectangle(dc, low, high, fillColour, 2);
+        figures.Rectangle(low, high, fillColour, 2);
         break;
     default:
         break;
     }
     return 0;
+}
+
+} // namespace seisplot
+
+int Quote(CDC* dc, unsigned long colour, const CPoint& from, const CPoint& to,
+          unsigned char style) {
+    const int u = seisplot::UnitsPerMillimetre(dc);
+    if (u == 0) {
+        return 0;
+    }
+    seisplot::DeviceFigures figures(dc);
+    return seisplot::DrawQuote(figures, u, colour, from, to, style);
+}
+
+int Quote(CDC* dc, unsigned long colour, int x1, int y1, int x2, int y2, unsigned char style) {
+    return Quote(dc, colour, CPoint(x1, y1), CPoint(x2, y2), style);
+}
+
+int Arrow(CDC* dc, const CPoint& tail, const CPoint& tip, unsigned long colour, int width) {
+    seisplot::DeviceFigures figures(dc);
+    return seisplot::DrawArrow(figures, tail, tip, colour, width);
+}
+
+int DArrow(CDC* dc, const CPoint& tail, const CPoint& tip, unsigned long colour, int width) {
+    seisplot::DeviceFigures figures(dc);
+    return seisplot::DrawDArrow(figures, tail, tip, colour, width);
+}
+
+int ArwLine(CDC* dc, nbox* /*view*/, const CPoint& at, const CPoint& direction, unsigned char style,
+            unsigned long lineColour, unsigned long fillColour) {
+    seisplot::DeviceFigures figures(dc);
+    return seisplot::DrawArwLine(figures, at, direction, style, lineColour, fillColour);
 }

@@ -2,6 +2,7 @@
 
 #include "draw/gdi/Areas.h"
 #include "draw/gdi/DeviceConventions.h"
+#include "draw/gdi/DeviceFigures_p.h"
 
 #include <cmath>
 #include <iterator>
@@ -11,9 +12,24 @@ namespace {
 
 constexpr unsigned long kNoValueGrey = 0xC0C0C0;
 
-// The value class of layer_line: the index of the first threshold above the value, or the
-// length of the table when none is; any unknown kind is class 0.
-int ValueClass(double value, unsigned char kind) {
+// A segment with its own solid pen; false when the pen cannot be created.
+bool SolidSegment(CDC* dc, const CPoint& from, const CPoint& to, unsigned long colour, int width) {
+    CPen pen;
+    if (!pen.CreatePen(PS_SOLID, width, colour)) {
+        return false;
+    }
+    CPen* previous = dc->SelectObject(&pen);
+    dc->MoveTo(from);
+    dc->LineTo(to);
+    dc->SelectObject(previous);
+    return true;
+}
+
+} // namespace
+
+namespace seisplot {
+
+int LayerValueClass(double value, unsigned char kind) {
     static constexpr double kind1[] = {0.0, 0.2, 0.4, 0.6, 0.8, 1.0, 1.2, 1.4};
     static constexpr double kind2[] = {0.0, 40.0, 80.0, 120.0, 160.0, 200.0, 240.0, 280.0};
     static constexpr double kind3[] = {0.0, 0.2, 0.4, 0.6, 0.8};
@@ -42,50 +58,72 @@ int ValueClass(double value, unsigned char kind) {
     return k;
 }
 
-// The black marker of a value class at M, s = 2u across; the crosses and diagonals are
-// drawn with the pen the caller had selected.
-void DrawClassMarker(CDC* dc, int k, CPoint m, int u) {
+// s = 2u across; the crosses and diagonals are drawn with the pen in use.
+void DrawClassMarker(Figures& figures, int k, CPoint m, int u) {
     const int s = 2 * u;
     const int h = s / 2;
+    // The square's corners as the coordinate forms of rectangle and ellipse pass them.
+    const CPoint low(m.x - h, m.y + h);
+    const CPoint high(m.x + h, m.y - h);
     switch (k) {
     case 1:
     case 6:
-        triangle(dc, 0, k == 1 ? 1 : 2, m.x - s / 3, m.y - s / 3, m.x + s / 3, m.y - s / 3, m.x,
-                 m.y + 4 * u / 3);
+        figures.Triangle(0, k == 1 ? 1 : 2, CPoint(m.x - s / 3, m.y - s / 3),
+                         CPoint(m.x + s / 3, m.y - s / 3), CPoint(m.x, m.y + 4 * u / 3));
         break;
     case 2:
     case 3:
     case 7:
-        rectangle(dc, 0, k == 7 ? 2 : 1, m.x - h, m.y - h, m.x + h, m.y + h);
+        figures.Rectangle(low, high, 0, k == 7 ? 2 : 1);
         if (k == 3) {
-            line(dc, CPoint(m.x - h, m.y - h), CPoint(m.x + h, m.y + h));
-            line(dc, CPoint(m.x - h, m.y + h), CPoint(m.x + h, m.y - h));
+            figures.PlainLine(CPoint(m.x - h, m.y - h), CPoint(m.x + h, m.y + h));
+            figures.PlainLine(CPoint(m.x - h, m.y + h), CPoint(m.x + h, m.y - h));
         }
         break;
     default:
-        ellipse(dc, 0, k == 8 ? 2 : 1, m.x - h, m.y - h, m.x + h, m.y + h);
+        figures.Ellipse(low, high, 0, k == 8 ? 2 : 1, 10);
         if (k == 5) {
-            line(dc, CPoint(m.x, m.y - h), CPoint(m.x, m.y + h));
-            line(dc, CPoint(m.x - h, m.y), CPoint(m.x + h, m.y));
+            figures.PlainLine(CPoint(m.x, m.y - h), CPoint(m.x, m.y + h));
+            figures.PlainLine(CPoint(m.x - h, m.y), CPoint(m.x + h, m.y));
         }
         break;
     }
 }
 
-// A segment with its own solid pen; false when the pen cannot be created.
-bool SolidSegment(CDC* dc, const CPoint& from, const CPoint& to, unsigned long colour, int width) {
-    CPen pen;
-    if (!pen.CreatePen(PS_SOLID, width, colour)) {
-        return false;
+void DrawSpring(Figures& figures, const CPoint& from, const CPoint& to, double divisor,
+                unsigned long colour, int width) {
+    constexpr double n = 11.0;
+    constexpr double quarter = std::numbers::pi / 2.0;
+    const double x1 = from.x, y1 = from.y, x2 = to.x, y2 = to.y;
+    const double h = std::hypot(x2 - x1, y2 - y1) / divisor;
+    // A divisor of 0 (or NaN) leaves no width to draw the strokes across.
+    if ((x1 == x2 && y1 == y2) || !std::isfinite(h)) {
+        return;
     }
-    CPen* previous = dc->SelectObject(&pen);
-    dc->MoveTo(from);
-    dc->LineTo(to);
-    dc->SelectObject(previous);
-    return true;
+    const double a = x2 == x1 ? quarter : y2 == y1 ? 0.0 : std::atan2(y1 - y2, x2 - x1);
+    const double ax1 = x1 + h * std::cos(a - quarter), ay1 = y1 - h * std::sin(a - quarter);
+    const double bx1 = x1 + h * std::cos(a + quarter), by1 = y1 - h * std::sin(a + quarter);
+    const double ax2 = x2 + h * std::cos(a - quarter), ay2 = y2 - h * std::sin(a - quarter);
+    const double bx2 = x2 + h * std::cos(a + quarter), by2 = y2 - h * std::sin(a + quarter);
+    const auto sideA = [&](int j) {
+        return CPoint(static_cast<int>(ax1 + (ax2 - ax1) * j / n),
+                      static_cast<int>(ay1 + (ay2 - ay1) * j / n));
+    };
+    const auto sideB = [&](int j) {
+        return CPoint(static_cast<int>(bx1 + (bx2 - bx1) * j / n),
+                      static_cast<int>(by1 + (by2 - by1) * j / n));
+    };
+    for (int i = 0; i < 5; ++i) {
+        figures.Line(sideB(2 * i + 1), sideA(2 * i + 2), colour, width);
+    }
+    for (int i = 0; i < 4; ++i) {
+        figures.Line(sideA(2 * i + 2), sideB(2 * i + 3), colour, width);
+    }
+    figures.Line(from, sideB(1), colour, width);
+    figures.Line(to, sideA(10), colour, width);
 }
 
-} // namespace
+} // namespace seisplot
 
 int line(CDC* dc, const CPoint& from, const CPoint& to, unsigned long colour, int width) {
     CPen pen(PS_SOLID, width, colour);
@@ -148,7 +186,7 @@ int layer_line(CDC* dc, const CPoint& from, const CPoint& to, double value, unsi
     if (value == -1.0) {
         return SolidSegment(dc, from, to, kNoValueGrey, width) ? 0 : 1;
     }
-    const int k = ValueClass(value, kind);
+    const int k = seisplot::LayerValueClass(value, kind);
     if (!dc->IsMonochrome()) {
         // The caller's colours start at class 1; class 0 shows as a line without a value.
         line(dc, from, to, k == 0 ? kNoValueGrey : classColours[k - 1], width);
@@ -157,39 +195,13 @@ int layer_line(CDC* dc, const CPoint& from, const CPoint& to, double value, unsi
     if (!SolidSegment(dc, from, to, 0, width)) {
         return 1;
     }
-    DrawClassMarker(dc, k, CPoint((from.x + to.x) / 2, (from.y + to.y) / 2), u);
+    seisplot::DeviceFigures figures(dc);
+    seisplot::DrawClassMarker(figures, k, CPoint((from.x + to.x) / 2, (from.y + to.y) / 2), u);
     return 0;
 }
 
 int linespr(CDC* dc, CPoint& from, CPoint& to, double divisor, unsigned long colour, int width) {
-    constexpr double n = 11.0;
-    constexpr double quarter = std::numbers::pi / 2.0;
-    const double x1 = from.x, y1 = from.y, x2 = to.x, y2 = to.y;
-    const double h = std::hypot(x2 - x1, y2 - y1) / divisor;
-    // A divisor of 0 (or NaN) leaves no width to draw the strokes across.
-    if ((x1 == x2 && y1 == y2) || !std::isfinite(h)) {
-        return 0;
-    }
-    const double a = x2 == x1 ? quarter : y2 == y1 ? 0.0 : std::atan2(y1 - y2, x2 - x1);
-    const double ax1 = x1 + h * std::cos(a - quarter), ay1 = y1 - h * std::sin(a - quarter);
-    const double bx1 = x1 + h * std::cos(a + quarter), by1 = y1 - h * std::sin(a + quarter);
-    const double ax2 = x2 + h * std::cos(a - quarter), ay2 = y2 - h * std::sin(a - quarter);
-    const double bx2 = x2 + h * std::cos(a + quarter), by2 = y2 - h * std::sin(a + quarter);
-    const auto sideA = [&](int j) {
-        return CPoint(static_cast<int>(ax1 + (ax2 - ax1) * j / n),
-                      static_cast<int>(ay1 + (ay2 - ay1) * j / n));
-    };
-    const auto sideB = [&](int j) {
-        return CPoint(static_cast<int>(bx1 + (bx2 - bx1) * j / n),
-                      static_cast<int>(by1 + (by2 - by1) * j / n));
-    };
-    for (int i = 0; i < 5; ++i) {
-        line(dc, sideB(2 * i + 1), sideA(2 * i + 2), colour, width);
-    }
-    for (int i = 0; i < 4; ++i) {
-        line(dc, sideA(2 * i + 2), sideB(2 * i + 3), colour, width);
-    }
-    line(dc, from, sideB(1), colour, width);
-    line(dc, to, sideA(10), colour, width);
+    seisplot::DeviceFigures figures(dc);
+    seisplot::DrawSpring(figures, from, to, divisor, colour, width);
     return 0;
 }

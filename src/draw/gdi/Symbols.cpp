@@ -5,24 +5,12 @@
 
 #include "draw/gdi/Areas.h"
 #include "draw/gdi/DeviceConventions.h"
+#include "draw/gdi/Figures_p.h"
 
 namespace {
 
 bool IsFilledSymbol(unsigned char code) {
     return code == 1 || code == 3 || code == 12;
-}
-
-// The cell of a dot code (4 to 9) in the two-by-three grid about the point; false for the
-// other codes.
-bool DotCentre(unsigned char code, CPoint point, int s, CPoint& centre) {
-    if (code < 4 || code > 9) {
-        return false;
-    }
-    const int column = (code - 4) % 3; // left, middle, right
-    const int dx = column == 0 ? -s / 4 : (column == 1 ? 0 : s / 4);
-    const int dy = code <= 6 ? s / 6 : -s / 6;
-    centre = CPoint(point.x + dx, point.y + dy);
-    return true;
 }
 
 // The place of a profile quarter: the anchor, the directions in which its lengths grow, and
@@ -79,7 +67,7 @@ int Symbol(CDC* dc, unsigned long colour, unsigned char code, CPoint point, int 
     const int x = point.x;
     const int y = point.y;
     CPoint dot;
-    const bool isDot = DotCentre(code, point, s, dot);
+    const bool isDot = seisplot::SymbolDotCentre(code, point, s, dot);
     const bool filled = IsFilledSymbol(code) || (isDot && dc->IsPrinting());
 
     CPen* oldPen = dc->SelectObject(&pen);
@@ -172,3 +160,20 @@ int boot_displ(CDC* dc, unsigned char orientation, long x0, long y0, double b, d
     RootFillet(dc, q, t, h + d, h + r + d, t + r, colour, background);
     return 0;
 }
+
+namespace seisplot {
+
+// The cell of a dot code (4 to 9) in the two-by-three grid about the point; false for the
+// other codes.
+bool SymbolDotCentre(unsigned char code, CPoint point, int s, CPoint& centre) {
+    if (code < 4 || code > 9) {
+        return false;
+    }
+    const int column = (code - 4) % 3; // left, middle, right
+    const int dx = column == 0 ? -s / 4 : (column == 1 ? 0 : s / 4);
+    const int dy = code <= 6 ? s / 6 : -s / 6;
+    centre = CPoint(point.x + dx, point.y + dy);
+    return true;
+}
+
+} // namespace seisplot

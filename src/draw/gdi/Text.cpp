@@ -6,6 +6,7 @@
 #include "draw/font/SFont.h"
 #include "draw/gdi/Areas.h"
 #include "draw/gdi/DeviceConventions.h"
+#include "draw/gdi/DeviceFigures_p.h"
 #include "draw/gdi/Lines.h"
 
 #include <array>
@@ -54,32 +55,6 @@ void WriteText(CDC* dc, const char* text, int x, int y, const LOGFONTA& lf, COLO
     dc->SelectObject(oldFont);
     dc->SetTextColor(oldColour);
     dc->SetBkMode(oldBkMode);
-}
-
-// The two halves of a swatch for a colour code: codes 1 to 144 and 145 to 288 pair the same
-// twelve palette entries with the sides swapped; codes above 288 wrap round to (code mod 288)
-// + 1.
-std::pair<unsigned long, unsigned long> SwatchColours(unsigned int code) {
-    static constexpr std::array<int, 12> kSwatch{1, 2, 3, 4, 5, 6, 9, 10, 11, 12, 13, 14};
-    if (code > 288) {
-        code = code % 288 + 1;
-    }
-    if (code == 0) {
-        return {kYellow, kYellow};
-    }
-    std::pair<unsigned long, unsigned long> pair;
-    if (code <= 144) {
-        const unsigned int j = code - 1;
-        pair = {col[kSwatch[j / 12]], col[kSwatch[j % 12]]};
-    } else {
-        const unsigned int j = code - 145;
-        pair = {col[kSwatch[j % 12]], col[kSwatch[j / 12]]};
-    }
-    // Yellow on yellow would vanish on a white legend.
-    if (pair.first == kYellow && pair.second == kYellow) {
-        pair = {0x00FF00, 0x808000};
-    }
-    return pair;
 }
 
 // Writes `text` in a default descriptor's face at `height` logical units, in the context's own
@@ -242,62 +217,28 @@ int outxROP(CDC* dc, const char* text, int x, int y, const SFont& font, double a
 }
 
 int draw_temp(CDC* dc, const CPoint& centre, unsigned long colour, int size) {
-    const double q = size / 4.0;
-    const int outer = static_cast<int>(2 * q);
-    const int inner = static_cast<int>(q);
-    ellipse(dc, CPoint(centre.x - outer, centre.y + outer),
-            CPoint(centre.x + outer, centre.y - outer), colour, 2);
-    ellipse(dc, CPoint(centre.x - inner, centre.y + inner),
-            CPoint(centre.x + inner, centre.y - inner), 0xFFFFFF, 2);
-    return 0;
+    seisplot::DeviceFigures figures(dc);
+    return seisplot::DrawTemp(figures, centre, colour, size);
 }
 
 int draw_bar(CDC* dc, const CPoint& centre, int radius, double slope, double turn, int length) {
-    const int cx = centre.x;
-    const int cy = centre.y;
-    const int r = radius;
-    const CPoint p1(cx - r, cy + r);
-    const CPoint p2(cx + r, cy - r);
-    if (ellipse(dc, p1, p2, 0xFF0000, 2) != 0 ||
-        pie(dc, p1, p2, CPoint(cx + r, cy), CPoint(cx, cy + r), kYellow, 2) != 0 ||
-        pie(dc, p1, p2, CPoint(cx - r, cy), CPoint(cx, cy - r), kYellow, 2) != 0) {
-        return 1;
-    }
-    const double t = std::atan(slope);
-    line(dc, centre,
-         CPoint(static_cast<int>(cx + length * std::cos(t)),
-                static_cast<int>(cy + length * std::sin(t))),
-         0xFFFFFF, 1);
-    const double l2 = (2 * length) / 3.0;
-    line(dc, centre,
-         CPoint(static_cast<int>(cx + l2 * std::cos(t + turn)),
-                static_cast<int>(cy + l2 * std::sin(t + turn))),
-         0x0000FF, 1);
-    return 0;
+    seisplot::DeviceFigures figures(dc);
+    return seisplot::DrawBar(figures, centre, radius, slope, turn, length);
 }
 
 int button(CDC* dc, unsigned long faceColour, int /*unused*/, CRect rect) {
-    const int l = rect.left;
-    const int t = rect.top;
-    const int r = rect.right;
-    const int b = rect.bottom;
-    rectangle(dc, 0x000000, 1, l, t, r, b);
-    triangle(dc, 0xFFFFFF, 2, l, b, l, t, r, t);
-    triangle(dc, 0x000000, 2, l, b, r, b, r, t);
-    const int dx = (l - r) / 30;
-    const int dy = (t - b) / 30;
-    rectangle(dc, faceColour, 2, r + dx, b + dy, l - dx, t - dy);
-    return 0;
+    seisplot::DeviceFigures figures(dc);
+    return seisplot::DrawButton(figures, faceColour, rect.left, rect.top, rect.right, rect.bottom);
 }
 
 int MixedRect(CDC* dc, unsigned int code, CString label, CPoint centre, int size) {
-    const auto [left, right] = SwatchColours(code);
+    const auto [left, right] = seisplot::SwatchColours(code);
     return Swatch(dc, left, right, label, LabelLength::FirstNine, centre, size, std::nullopt);
 }
 
 int MixedRect(CDC* dc, unsigned int code, unsigned int number, CString label, CPoint centre,
               int size) {
-    const auto [left, right] = SwatchColours(code);
+    const auto [left, right] = seisplot::SwatchColours(code);
     return Swatch(dc, left, right, label, LabelLength::FirstNine, centre, size, number);
 }
 
@@ -310,3 +251,80 @@ int FullRect(CDC* dc, unsigned int /*code*/, unsigned int number, CString label,
              int size, unsigned long colour) {
     return Swatch(dc, colour, colour, label, LabelLength::Whole, centre, size, number);
 }
+
+namespace seisplot {
+
+// The two halves of a swatch for a colour code: codes 1 to 144 and 145 to 288 pair the same
+// twelve palette entries with the sides swapped; codes above 288 wrap round to (code mod 288)
+// + 1.
+SwatchPair SwatchColours(unsigned int code) {
+    static constexpr std::array<int, 12> kSwatch{1, 2, 3, 4, 5, 6, 9, 10, 11, 12, 13, 14};
+    if (code > 288) {
+        code = code % 288 + 1;
+    }
+    if (code == 0) {
+        return {kYellow, kYellow};
+    }
+    SwatchPair pair{};
+    if (code <= 144) {
+        const unsigned int j = code - 1;
+        pair = {col[kSwatch[j / 12]], col[kSwatch[j % 12]]};
+    } else {
+        const unsigned int j = code - 145;
+        pair = {col[kSwatch[j % 12]], col[kSwatch[j / 12]]};
+    }
+    // Yellow on yellow would vanish on a white legend.
+    if (pair.left == kYellow && pair.right == kYellow) {
+        pair = {0x00FF00, 0x808000};
+    }
+    return pair;
+}
+
+int DrawTemp(Figures& figures, const CPoint& centre, unsigned long colour, int size) {
+    const double q = size / 4.0;
+    const int outer = static_cast<int>(2 * q);
+    const int inner = static_cast<int>(q);
+    figures.Ellipse(CPoint(centre.x - outer, centre.y + outer),
+                    CPoint(centre.x + outer, centre.y - outer), colour, 2, 10);
+    figures.Ellipse(CPoint(centre.x - inner, centre.y + inner),
+                    CPoint(centre.x + inner, centre.y - inner), 0xFFFFFF, 2, 10);
+    return 0;
+}
+
+int DrawBar(Figures& figures, const CPoint& centre, int radius, double slope, double turn,
+            int length) {
+    const int cx = centre.x;
+    const int cy = centre.y;
+    const int r = radius;
+    const CPoint p1(cx - r, cy + r);
+    const CPoint p2(cx + r, cy - r);
+    if (figures.Ellipse(p1, p2, 0xFF0000, 2, 10) != 0 ||
+        figures.Pie(p1, p2, CPoint(cx + r, cy), CPoint(cx, cy + r), kYellow, 2) != 0 ||
+        figures.Pie(p1, p2, CPoint(cx - r, cy), CPoint(cx, cy - r), kYellow, 2) != 0) {
+        return 1;
+    }
+    const double t = std::atan(slope);
+    figures.Line(centre,
+                 CPoint(static_cast<int>(cx + length * std::cos(t)),
+                        static_cast<int>(cy + length * std::sin(t))),
+                 0xFFFFFF, 1);
+    const double l2 = (2 * length) / 3.0;
+    figures.Line(centre,
+                 CPoint(static_cast<int>(cx + l2 * std::cos(t + turn)),
+                        static_cast<int>(cy + l2 * std::sin(t + turn))),
+                 0x0000FF, 1);
+    return 0;
+}
+
+int DrawButton(Figures& figures, unsigned long faceColour, int l, int t, int r, int b) {
+    // The rectangles' corners as their coordinate form passes them.
+    figures.Rectangle(CPoint(l, b), CPoint(r, t), 0x000000, 1);
+    figures.Triangle(0xFFFFFF, 2, CPoint(l, b), CPoint(l, t), CPoint(r, t));
+    figures.Triangle(0x000000, 2, CPoint(l, b), CPoint(r, b), CPoint(r, t));
+    const int dx = (l - r) / 30;
+    const int dy = (t - b) / 30;
+    figures.Rectangle(CPoint(r + dx, t - dy), CPoint(l - dx, b + dy), faceColour, 2);
+    return 0;
+}
+
+} // namespace seisplot

@@ -74,6 +74,29 @@ elseif(CASE STREQUAL "polygon_through_menu")
     if(at EQUAL -1)
         message(FATAL_ERROR "no preset shapes from the polygon dialog:\n${special}")
     endif()
+elseif(CASE STREQUAL "structure_in_both_back_ends")
+    # The section is filled in the same colour by the GDI view (left half) and the OpenGL view
+    # (right half): as many pixels of it in each, within 2 %.
+    studio(--structure-screenshot ${WORK_DIR}/structure.png --quit)
+    execute_process(COMMAND convert ${WORK_DIR}/structure.png -crop 50%x100% +repage
+        -fill black +opaque "#B0D8F0" -fill white -opaque "#B0D8F0"
+        -format "%[fx:round(mean*w*h)] " info:
+        OUTPUT_VARIABLE counts RESULT_VARIABLE failed)
+    separate_arguments(counts)
+    list(LENGTH counts halves)
+    if(failed OR NOT halves EQUAL 2)
+        message(FATAL_ERROR "no picture of the structure window: ${WORK_DIR}/structure.png")
+    endif()
+    list(GET counts 0 gdi)
+    list(GET counts 1 opengl)
+    math(EXPR difference "${gdi} - ${opengl}")
+    if(difference LESS 0)
+        math(EXPR difference "-${difference}")
+    endif()
+    math(EXPR allowed "${gdi} / 50")
+    if(gdi LESS 1000 OR difference GREATER allowed)
+        message(FATAL_ERROR "section pixels: GDI ${gdi}, OpenGL ${opengl}")
+    endif()
 elseif(CASE STREQUAL "without_display")
     execute_process(
         COMMAND ${CMAKE_COMMAND} -E env --unset=DISPLAY --unset=WAYLAND_DISPLAY
