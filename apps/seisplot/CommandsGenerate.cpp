@@ -19,7 +19,7 @@ namespace seisplot::cli {
 namespace {
 
 std::string StepText(const std::optional<double>& step) {
-    return step ? NumberText(*step) + " s" : "varying";
+    return step ? Printf("%g s", *step) : "varying";
 }
 
 // Two records compose into one component only when they are of one event and one sampling.
