@@ -32,9 +32,15 @@ void CheckComposable(const Accelerogram& x, unsigned long nx, const Accelerogram
     }
     const std::optional<double> sx = ConstantStep(x.Record);
     const std::optional<double> sy = ConstantStep(y.Record);
-    if (!sx || !sy || std::fabs(*sx - *sy) > 1.0e-8 || x.Record.GetMinX() != y.Record.GetMinX()) {
+    if (!sx || !sy || std::fabs(*sx - *sy) > 1.0e-8) {
         BadUsage(which + "are not sampled alike (steps " + StepText(sx) + " and " + StepText(sy) +
                  "); give --force to compose them anyway");
+    }
+    if (x.Record.GetMinX() != y.Record.GetMinX()) {
+        BadUsage(which +
+                 Printf("start at different times (%g s and %g s)", x.Record.GetMinX(),
+                        y.Record.GetMinX()) +
+                 "; give --force to compose them anyway");
     }
 }
 
