@@ -56,7 +56,7 @@ CLI::Validator NumberIn(double low, double high, const std::string& what, OpenEn
             }
             return "'" + text + "' is not " + what + " (" + range + ")";
         },
-        "NUMBER");
+        range);
 }
 
 const CLI::Validator kDampingRatio =
