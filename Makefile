@@ -47,7 +47,8 @@ bench:
 # Builds the fuzz preset and runs each libFuzzer target for FUZZ_TIME seconds on a copy of its
 # seed corpus in build/fuzz/corpus (the committed corpus in fuzz/corpus is never written).
 # A crash leaves its input in build/fuzz/artifacts and fails the target.
-FUZZ_TARGETS := fuzz_read_asc fuzz_read_txtplt fuzz_read_acc fuzz_read_curves fuzz_formula
+FUZZ_TARGETS := fuzz_read_asc fuzz_read_txtplt fuzz_read_acc fuzz_read_spc fuzz_read_modes \
+	fuzz_read_font fuzz_read_curves fuzz_formula
 FUZZ_TIME ?= 20
 
 fuzz-smoke:

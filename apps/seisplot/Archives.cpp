@@ -2,7 +2,9 @@
 
 #include "AtomicFile.h"
 #include "Errors.h"
+#include "FileChecks.h"
 
+#include "platform/core/CFile.h"
 #include "platform/core/Exceptions.h"
 
 #include <new>
@@ -24,13 +26,53 @@ template <class Operation> void Guarded(const std::string& what, Operation opera
     }
 }
 
+// Reads `collection` from the file `path` as its ReadFromFile would, and fails when bytes
+// follow its end: a file holds one archive, and a second one joined to it would be dropped
+// silently by a later rewrite.
+template <class Collection>
+void ReadWhole(const std::string& what, const std::string& path, Collection& collection) {
+    CheckInput(what, path);
+    ULONGLONG left = 0;
+    Guarded("cannot read " + what + " " + path, [&] {
+        CFile file(CString(path.c_str()), CFile::modeRead | CFile::shareDenyWrite);
+        CArchive ar(&file, CArchive::load);
+        collection.Serialize(ar);
+        left = ar.BytesLeft();
+        ar.Close();
+    });
+    if (left != 0) {
+        collection.Free();
+        Fail("cannot read " + what + " " + path + ": " + std::to_string(left) +
+             " bytes follow its end (two files joined?)");
+    }
+}
+
+// Whether `path` reads whole as a `Collection`: tells a file of the other kind.
+template <class Collection> bool ReadsAs(const std::string& path) {
+    try {
+        Collection collection;
+        CFile file(CString(path.c_str()), CFile::modeRead | CFile::shareDenyWrite);
+        CArchive ar(&file, CArchive::load);
+        collection.Serialize(ar);
+        return ar.BytesLeft() == 0;
+    } catch (CException* e) {
+        e->Delete();
+    } catch (const std::bad_alloc&) {
+    }
+    return false;
+}
+
 } // namespace
 
 void LoadRecordSet(const std::string& path, AccelerogramColl& records) {
-    Guarded("cannot read the record set " + path, [&] {
-        CString file(path.c_str());
-        records.ReadFromFile(file);
-    });
+    try {
+        ReadWhole("the record set", path, records);
+    } catch (const CommandError&) {
+        if (ReadsAs<SpectrumColl>(path)) {
+            Fail("cannot read the record set " + path + ": it is a spectra archive");
+        }
+        throw;
+    }
 }
 
 void SaveRecordSet(const std::string& path, AccelerogramColl& records) {
@@ -43,10 +85,14 @@ void SaveRecordSet(const std::string& path, AccelerogramColl& records) {
 }
 
 void LoadSpectrumSet(const std::string& path, SpectrumColl& spectra) {
-    Guarded("cannot read the spectra archive " + path, [&] {
-        CString file(path.c_str());
-        spectra.ReadFromFile(file);
-    });
+    try {
+        ReadWhole("the spectra archive", path, spectra);
+    } catch (const CommandError&) {
+        if (ReadsAs<AccelerogramColl>(path)) {
+            Fail("cannot read the spectra archive " + path + ": it is a record set");
+        }
+        throw;
+    }
 }
 
 void SaveSpectrumSet(const std::string& path, SpectrumColl& spectra) {

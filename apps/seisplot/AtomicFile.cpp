@@ -49,26 +49,58 @@ void SyncFile(const std::string& path) {
     }
 }
 
+// The file that writing `target` changes: the target, or the file its symbolic links lead to.
+std::filesystem::path FinalTarget(const std::string& target) {
+    namespace fs = std::filesystem;
+    fs::path path(target);
+    std::error_code error;
+    for (int links = 0; fs::is_symlink(path, error); ++links) {
+        if (links == 40) {
+            Fail("cannot write " + target + ": too many levels of symbolic links");
+        }
+        const fs::path next = fs::read_symlink(path, error);
+        path = next.is_absolute() ? next : path.parent_path() / next;
+    }
+    return path;
+}
+
 } // namespace
 
 void ReplaceFile(const std::string& target,
                  const std::function<void(const std::string& temporary)>& write) {
     namespace fs = std::filesystem;
-    const fs::path targetPath(target);
+    const fs::path targetPath = FinalTarget(target);
     const fs::path folder =
         targetPath.parent_path().empty() ? fs::path(".") : targetPath.parent_path();
     std::string pattern =
         (folder / ("." + targetPath.filename().string() + ".tmp-XXXXXX")).string();
+
+    // A file already there keeps its permissions and owner; only a regular file that may be
+    // written is replaced.
+    struct stat existing {};
+    const bool exists = ::lstat(targetPath.c_str(), &existing) == 0;
+    if (exists && !S_ISREG(existing.st_mode)) {
+        Fail("cannot write " + target + ": it is not a regular file");
+    }
+    if (exists && ((existing.st_mode & 0222) == 0 || ::access(targetPath.c_str(), W_OK) != 0)) {
+        Fail("cannot write " + target + ": it is read-only");
+    }
 
     HeldSignals held;
     const int fd = ::mkstemp(pattern.data());
     if (fd < 0) {
         Fail("cannot write " + target + ": " + SystemError());
     }
-    // mkstemp makes the file private; give it the permissions a new file normally gets.
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    ::fchmod(fd, 0666 & ~mask);
+    if (exists) {
+        ::fchmod(fd, existing.st_mode & 07777);
+        // Only root may give the file to another owner; otherwise it stays the writer's.
+        [[maybe_unused]] const int owned = ::fchown(fd, existing.st_uid, existing.st_gid);
+    } else {
+        // mkstemp makes the file private; give it the permissions a new file normally gets.
+        const mode_t mask = ::umask(0);
+        ::umask(mask);
+        ::fchmod(fd, 0666 & ~mask);
+    }
     ::close(fd);
 
     const std::string temporary = pattern;
@@ -79,7 +111,7 @@ void ReplaceFile(const std::string& target,
         throw;
     }
     SyncFile(temporary);
-    if (std::rename(temporary.c_str(), target.c_str()) != 0) {
+    if (std::rename(temporary.c_str(), targetPath.c_str()) != 0) {
         const std::string reason = SystemError();
         std::remove(temporary.c_str());
         Fail("cannot write " + target + ": " + reason);

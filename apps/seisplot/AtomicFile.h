@@ -10,10 +10,12 @@
 namespace seisplot::cli {
 
 // Calls `write` with the path of a new, empty temporary file beside `target`, then renames it
-// to `target`. The signals that end a program from the terminal (SIGINT, SIGTERM, SIGHUP,
-// SIGQUIT) are held back until the rename is done. When `write` throws, the temporary file is
-// removed and the exception goes on. Fails (CommandError) when the temporary file cannot be
-// created or renamed.
+// to `target`. A symbolic link is followed: the file it leads to is replaced, and the link
+// stays. An existing file keeps its permissions (and owner, where the writer may give it);
+// one that is not a regular file, or that is read-only, is refused before anything is written. The
+// signals that end a program from the terminal (SIGINT, SIGTERM, SIGHUP, SIGQUIT) are held back
+// until the rename is done. When `write` throws, the temporary file is removed and the exception
+// goes on. Fails (CommandError) when the temporary file cannot be created or renamed.
 void ReplaceFile(const std::string& target,
                  const std::function<void(const std::string& temporary)>& write);
 

@@ -1,5 +1,9 @@
 #include "CommandLine.h"
 
+#include <algorithm>
+#include <cctype>
+#include <cmath>
+#include <limits>
 #include <string>
 
 namespace seisplot::cli {
@@ -15,41 +19,80 @@ void AddFormatFlags(CLI::App& command, FormatFlags& flags, bool withCsv) {
 
 namespace {
 
-std::string CheckNumber(const std::string& text, bool (*accept)(double), const char* what) {
-    try {
-        size_t used = 0;
-        const double value = std::stod(text, &used);
-        if (used == text.size() && accept(value)) {
-            return {};
-        }
-    } catch (const std::exception&) {
+bool Inside(double v, double low, double high, OpenEnds open) {
+    const bool lowOpen = open == OpenEnds::Low || open == OpenEnds::Both;
+    const bool highOpen = open == OpenEnds::High || open == OpenEnds::Both;
+    return std::isfinite(v) && (lowOpen ? v > low : v >= low) && (highOpen ? v < high : v <= high);
+}
+
+std::string RangeText(double low, double high, OpenEnds open) {
+    const bool lowOpen = open == OpenEnds::Low || open == OpenEnds::Both;
+    const bool highOpen = open == OpenEnds::High || open == OpenEnds::Both;
+    if (std::isinf(high)) {
+        return (lowOpen ? "more than " : "at least ") + NumberText(low);
     }
-    return "'" + text + "' is not " + what;
+    return (lowOpen ? "more than " : "") + NumberText(low) + (lowOpen ? ", " : " to ") +
+           (highOpen  ? "less than "
+            : lowOpen ? "at most "
+                      : "") +
+           NumberText(high);
 }
 
 } // namespace
 
-const CLI::Validator kDampingRatio(
-    [](std::string& text) {
-        return CheckNumber(
-            text, [](double v) { return v > 0.0 && v < 1.0; },
-            "a damping ratio (more than 0, less than 1; 0.05 for 5%)");
-    },
-    "RATIO in (0,1)");
+CLI::Validator NumberIn(double low, double high, const std::string& what, OpenEnds open) {
+    const std::string range = RangeText(low, high, open);
+    return CLI::Validator(
+        [=](std::string& text) {
+            size_t used = 0;
+            double value = 0.0;
+            try {
+                value = std::stod(text, &used);
+            } catch (const std::exception&) {
+                used = 0;
+            }
+            if (used != 0 && used == text.size() && Inside(value, low, high, open)) {
+                return std::string();
+            }
+            return "'" + text + "' is not " + what + " (" + range + ")";
+        },
+        range);
+}
 
-const CLI::Validator kDampingRatioOrZero(
+const CLI::Validator kDampingRatio =
+    NumberIn(0.0, 1.0, "a damping ratio (0.05 for 5%)", OpenEnds::Both);
+const CLI::Validator kDampingRatioOrZero =
+    NumberIn(0.0, 1.0, "a damping ratio (0.05 for 5%)", OpenEnds::High);
+const CLI::Validator kPositive =
+    NumberIn(0.0, std::numeric_limits<double>::infinity(), "a finite number", OpenEnds::Low);
+const CLI::Validator kFinite(
     [](std::string& text) {
-        return CheckNumber(
-            text, [](double v) { return v >= 0.0 && v < 1.0; },
-            "a damping ratio (0 or more, less than 1; 0.05 for 5%)");
+        size_t used = 0;
+        try {
+            if (std::isfinite(std::stod(text, &used)) && used == text.size()) {
+                return std::string();
+            }
+        } catch (const std::exception&) {
+        }
+        return "'" + text + "' is not a finite number";
     },
-    "RATIO in [0,1)");
+    "NUMBER");
 
-const CLI::Validator kPositive(
+const CLI::Validator kSpectrumTmax = NumberIn(0.1, 100.0, "a last period in s");
+const CLI::Validator kSpectrumDt = NumberIn(0.0001, 1.0, "a period step in s");
+const CLI::Validator kEnvelopeTmax = NumberIn(0.0, 50.0, "a last period in s", OpenEnds::Low);
+const CLI::Validator kEnvelopeDt = NumberIn(0.0, 10000.0, "a period step in s", OpenEnds::Low);
+
+const CLI::Validator kNumberFromOne(
     [](std::string& text) {
-        return CheckNumber(
-            text, [](double v) { return v > 0.0; }, "a number greater than 0");
+        const bool digits =
+            !text.empty() && text.size() <= 9 &&
+            std::all_of(text.begin(), text.end(), [](unsigned char c) { return std::isdigit(c); });
+        if (digits && std::stoul(text) >= 1) {
+            return std::string();
+        }
+        return "'" + text + "' is not a number from 1";
     },
-    "POSITIVE");
+    "N");
 
 } // namespace seisplot::cli

@@ -19,6 +19,7 @@ struct ImportOptions {
     std::string output;
     bool append = false;
     std::string units; // length unit of two-column files; empty: ask
+    bool rebaseTime = false;
     bool quiet = false;
     FormatFlags format;
 };
@@ -63,6 +64,7 @@ struct RotateOptions {
     std::optional<unsigned long> y;
     double angle = 0.0;
     std::string output;
+    bool force = false; // compose records of different events or samplings
 };
 void RunRotate(const RotateOptions& options, std::ostream& out);
 void AddGenerateCommands(CLI::App& app, Action& action);

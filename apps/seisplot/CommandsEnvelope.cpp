@@ -5,9 +5,11 @@
 #include "Commands.h"
 #include "ConsoleProgress.h"
 #include "Errors.h"
+#include "FileChecks.h"
 #include "Interrupt.h"
 #include "ModesFile.h"
 #include "RecordList.h"
+#include "WorkLimits.h"
 
 #include <filesystem>
 #include <iostream>
@@ -20,7 +22,7 @@ EnvelopeCriteria CriteriaOf(const EnvelopeOptions& options) {
     EnvelopeCriteria criteria;
     criteria.PeriodSource =
         options.modes.empty() ? EnvelopeCriteria::RegularGrid : EnvelopeCriteria::StructuralModes;
-    criteria.MaxPeriod = options.maxPeriod.value_or(0.0);
+    criteria.MaxPeriod = options.maxPeriod ? GridEnd(*options.maxPeriod, *options.periodStep) : 0.0;
     criteria.PeriodStep = options.periodStep.value_or(0.0);
     criteria.Damping = options.damping;
     criteria.SignalUse =
@@ -47,6 +49,20 @@ EnvelopeSummary RunEnvelope(const EnvelopeOptions& options, std::ostream& out) {
     CheckPlotOptions(options.plot);
     if (options.modes.empty() && !options.maxPeriod) {
         BadUsage("give the periods: --modes FILE, or --tmax T --dt S");
+    }
+    if (options.maxPeriod) {
+        CheckPeriodCount(*options.maxPeriod, *options.periodStep);
+    }
+    std::vector<InputFile> inputs = {{options.set, "the record set"}};
+    if (!options.modes.empty()) {
+        inputs.push_back({options.modes, "the modes file"});
+    }
+    if (!options.spectra.empty()) {
+        RefuseOverwritingInput("--spectra", options.spectra, inputs);
+        inputs.push_back({options.spectra, "the spectra archive"});
+    }
+    if (options.plot.file) {
+        RefuseOverwritingInput("--plot", *options.plot.file, inputs);
     }
     std::optional<std::vector<unsigned long>> numbers;
     try {
@@ -155,8 +171,7 @@ EnvelopeSummary RunEnvelope(const EnvelopeOptions& options, std::ostream& out) {
         table.AddColumn(options.pairs ? "pair" : "record");
     }
     for (int i = 0; i < curve.GetNP(); ++i) {
-        std::vector<std::string> cells = {Printf("%.3f", curve[i].GetX()),
-                                          Printf("%.5f", curve[i].GetY())};
+        std::vector<std::string> cells = {NumberText(curve[i].GetX()), NumberText(curve[i].GetY())};
         if (complete) {
             cells.push_back(i < track.GetNP() ? std::to_string(static_cast<long>(track[i].GetY()))
                                               : std::string());
@@ -177,13 +192,14 @@ EnvelopeSummary RunEnvelope(const EnvelopeOptions& options, std::ostream& out) {
         out << '\n';
     }
     if (options.pairs) {
-        out << Printf("  composed along %.3f degrees from WE\n", options.direction);
+        out << "  composed along " << NumberText(options.direction) << " degrees from WE\n";
     }
     out << '\n';
     table.PrintText(out);
     out << '\n'
-        << Printf("EC8 rating: peak %.5f g at T = %.3f s, damping %.3f\n", rating.Peak,
-                  rating.PeakPeriod, rating.Damping)
+        << "EC8 rating: peak " << NumberText(rating.Peak)
+        << " g at T = " << NumberText(rating.PeakPeriod) << " s, damping "
+        << NumberText(rating.Damping) << '\n'
         << "  " << summary.verdict << '\n';
     if (!options.spectra.empty()) {
         out << "Added as spectrum " << number << " of " << options.spectra << '\n';
@@ -215,11 +231,14 @@ void AddEnvelopeCommand(CLI::App& app, Action& action) {
         "--modes", options->modes,
         "Periods of a structure: a file of 'period X Y Z' lines, one per mode ('#' comments)");
     CLI::Option* maxPeriod =
-        command->add_option("--tmax", options->maxPeriod, "Last period of a regular grid (s)")
-            ->check(CLI::Range(0.0, 50.0) & kPositive);
+        command
+            ->add_option("--tmax", options->maxPeriod,
+                         "Last period of a regular grid (s), computed when it is a multiple of "
+                         "the step")
+            ->check(kEnvelopeTmax);
     CLI::Option* step =
         command->add_option("--dt", options->periodStep, "Step of the regular grid (s)")
-            ->check(kPositive);
+            ->check(kEnvelopeDt);
     modes->excludes(maxPeriod)->excludes(step);
     maxPeriod->needs(step);
     step->needs(maxPeriod);
@@ -233,14 +252,16 @@ void AddEnvelopeCommand(CLI::App& app, Action& action) {
         ->add_option("--direction", options->direction,
                      "Direction of the composition, degrees from WE counter-clockwise")
         ->needs(pairs)
+        ->check(kFinite)
         ->capture_default_str();
     command
         ->add_option("--percentile", options->percentile,
                      "Keep this percentile of the signals instead of their maximum")
-        ->check(CLI::Range(50.0, 100.0));
+        ->check(NumberIn(50.0, 100.0, "a percentile"));
     command->add_option("--spectra", options->spectra,
                         "Spectra archive to add the result to (created when missing)");
     command->add_option("--threads", options->threads, "Threads to compute on (0: one per core)")
+        ->check(CLI::Range(0u, kMostThreads))
         ->capture_default_str();
     AddPlotOptions(*command, options->plot);
     AddFormatFlags(*command, options->format, true);

@@ -4,15 +4,58 @@
 #include "Commands.h"
 #include "ConsoleProgress.h"
 #include "Errors.h"
+#include "RecordSampling.h"
+#include "WorkLimits.h"
 
 #include "records/Sinusoids.h"
 
+#include <cmath>
 #include <filesystem>
 #include <iostream>
+#include <optional>
 
 namespace seisplot::cli {
 
+namespace {
+
+std::string StepText(const std::optional<double>& step) {
+    return step ? Printf("%g s", *step) : "varying";
+}
+
+// Two records compose into one component only when they are of one event and one sampling.
+void CheckComposable(const Accelerogram& x, unsigned long nx, const Accelerogram& y,
+                     unsigned long ny) {
+    const std::string which = "records " + std::to_string(nx) + " and " + std::to_string(ny) + " ";
+    if (std::string(x.EventId.GetString()) != y.EventId.GetString()) {
+        BadUsage(which + "belong to different events ('" + x.EventId.GetString() + "' and '" +
+                 y.EventId.GetString() + "'); give --force to compose them anyway");
+    }
+    const std::optional<double> sx = ConstantStep(x.Record);
+    const std::optional<double> sy = ConstantStep(y.Record);
+    if (!sx || !sy || std::fabs(*sx - *sy) > 1.0e-8) {
+        BadUsage(which + "are not sampled alike (steps " + StepText(sx) + " and " + StepText(sy) +
+                 "); give --force to compose them anyway");
+    }
+    if (x.Record.GetMinX() != y.Record.GetMinX()) {
+        BadUsage(which +
+                 Printf("start at different times (%g s and %g s)", x.Record.GetMinX(),
+                        y.Record.GetMinX()) +
+                 "; give --force to compose them anyway");
+    }
+}
+
+} // namespace
+
 void RunSinusoids(const SinusoidOptions& options, std::ostream& out) {
+    const double points =
+        static_cast<double>(options.count) *
+        (static_cast<double>(options.points - 1) * static_cast<double>(options.periods) + 1.0);
+    if (points > kMostSinusoidPoints) {
+        BadUsage("--count " + std::to_string(options.count) + " records of --periods " +
+                 std::to_string(options.periods) + " times --points " +
+                 std::to_string(options.points) + " ask for " + Printf("%.0f", points) +
+                 " points; at most " + Printf("%.0f", kMostSinusoidPoints));
+    }
     AccelerogramColl records;
     if (options.append && std::filesystem::exists(options.output)) {
         LoadRecordSet(options.output, records);
@@ -37,6 +80,9 @@ void RunRotate(const RotateOptions& options, std::ostream& out) {
     LoadRecordSet(options.set, records);
     Accelerogram* x = &RecordAt(records, options.x, options.set);
     Accelerogram* y = options.y ? &RecordAt(records, *options.y, options.set) : nullptr;
+    if (y != nullptr && !options.force) {
+        CheckComposable(*x, options.x, *y, *options.y);
+    }
 
     Accelerogram rotated;
     if (rotated.Convert(x, y, options.angle) != 0) {
@@ -59,7 +105,7 @@ void AddGenerateCommands(CLI::App& app, Action& action) {
         ->check(CLI::Range(1UL, 10000UL))
         ->capture_default_str();
     sinusCommand->add_option("--dt", sinus->step, "Period interval DT (s)")
-        ->check(CLI::Range(1e-8, 10.0))
+        ->check(NumberIn(1e-8, 10.0, "a period interval in s"))
         ->capture_default_str();
     sinusCommand->add_option("--periods", sinus->periods, "Periods per record")
         ->check(CLI::Range(1UL, 100UL))
@@ -68,7 +114,7 @@ void AddGenerateCommands(CLI::App& app, Action& action) {
         ->check(CLI::Range(1UL, 10000UL))
         ->capture_default_str();
     sinusCommand->add_option("--amplitude", sinus->amplitude, "Peak acceleration (g)")
-        ->check(CLI::Range(1e-8, 10.0))
+        ->check(NumberIn(1e-8, 10.0, "a peak acceleration in g"))
         ->capture_default_str();
     sinusCommand->add_option("-o,--output", sinus->output, "Record set to write (*.acc)")
         ->required();
@@ -84,13 +130,16 @@ void AddGenerateCommands(CLI::App& app, Action& action) {
     rotateCommand->add_option("SET", rotate->set, "Record set (*.acc)")->required();
     rotateCommand->add_option("NX", rotate->x, "First record number (from 1)")
         ->required()
-        ->check(CLI::PositiveNumber);
+        ->check(kNumberFromOne);
     rotateCommand->add_option("NY", rotate->y, "Second record number, 90 degrees from the first")
-        ->check(CLI::PositiveNumber);
+        ->check(kNumberFromOne);
     rotateCommand
         ->add_option("--angle", rotate->angle,
                      "Direction of the new component, degrees from WE counter-clockwise")
-        ->required();
+        ->required()
+        ->check(kFinite);
+    rotateCommand->add_flag("--force", rotate->force,
+                            "Compose two records of different events or samplings");
     rotateCommand
         ->add_option("-o,--output", rotate->output,
                      "Record set to write: the records of SET and the new one")

@@ -4,6 +4,8 @@
 #include "Commands.h"
 #include "ConsoleProgress.h"
 #include "Errors.h"
+#include "FileChecks.h"
+#include "ImportChecks.h"
 
 #include "host/Units.h"
 #include "platform/core/ConsoleUserInterface.h"
@@ -52,6 +54,7 @@ Units TwoColumnUnits(const ImportOptions& options, const std::string& firstFile,
 
 void RunImport(const ImportOptions& options, std::ostream& out) {
     std::vector<seisplot::RecordFileKind> kinds;
+    std::vector<InputFile> inputs;
     std::string firstTwoColumn;
     int twoColumnCount = 0;
     for (const std::string& file : options.files) {
@@ -64,6 +67,15 @@ void RunImport(const ImportOptions& options, std::ostream& out) {
             firstTwoColumn = file;
         }
         kinds.push_back(kind);
+        inputs.push_back({file, "a record file"});
+    }
+    RefuseOverwritingInput("-o", options.output, inputs);
+    for (const std::string& file : options.files) {
+        const std::string problem = InputProblem(file);
+        if (!problem.empty()) {
+            Fail("cannot import " + file + ": " + problem + "; " + options.output +
+                 (options.append ? " left as it was" : " not written"));
+        }
     }
 
     AccelerogramColl records;
@@ -76,36 +88,55 @@ void RunImport(const ImportOptions& options, std::ostream& out) {
     JsonValue imported = JsonValue::array();
     JsonValue skipped = JsonValue::array();
     std::vector<std::pair<std::string, std::string>> summaries;
+    std::vector<std::string> warnings;
     {
         ConsoleProgress progress("import");
         progress.SetRange32(0, static_cast<int>(options.files.size()));
         progress.SetStep(1);
         for (size_t i = 0; i < options.files.size(); ++i) {
             progress.StepIt();
-            const CString path(options.files[i].c_str());
-            const CString name = seisplot::FileNameOf(path);
+            const std::string& file = options.files[i];
+            const CString name = seisplot::FileNameOf(file.c_str());
             if (records.FindAccelerogramFileId(name) != 0) {
                 std::cerr << "seisplot: The accelerogram " << name.GetString()
                           << " is already in the set and will NOT be added.\n";
-                skipped.push_back(options.files[i]);
+                skipped.push_back(file);
                 continue;
             }
-            Accelerogram record;
+            const std::unique_ptr<UnmarkedCopy> unmarked = UnmarkedCopy::Of(file);
+            const std::string read = unmarked ? unmarked->Path() : file;
+            // Read in place in the set: a long record is not copied.
+            records.AddAccelerogram(Accelerogram());
+            Accelerogram& record = records.GetAccelerogram(records.GetAccelerogramNum());
+            const CString path(read.c_str());
             const int failed = kinds[i] == seisplot::RecordFileKind::Itaca
                                    ? record.ReadASC(1, name, path)
                                    : record.ReadTXTPLT(1, name, path, units);
+            const std::string untouched =
+                options.output + (options.append ? " left as it was" : " not written");
             if (failed != 0) {
-                Fail("unable to read " + options.files[i] + "; " + options.output +
-                     (options.append ? " left as it was" : " not written"));
+                Fail("unable to read " + file + "; " + untouched);
             }
-            records.AddAccelerogram(record);
+            try {
+                CheckImportedRecord(file, read, kinds[i], record, warnings);
+            } catch (const CommandError& e) {
+                Fail(std::string("cannot import ") + e.what() + "; " + untouched);
+            }
+            if (options.rebaseTime) {
+                RebaseTime(record);
+            }
             summaries.emplace_back(name.GetString(), record.Explanation.GetString());
-            imported.push_back({{"file", options.files[i]},
+            imported.push_back({{"file", file},
                                 {"identifier", record.Identifier.GetString()},
                                 {"number", records.GetAccelerogramNum()},
                                 {"summary", record.Explanation.GetString()},
                                 {"pga_g", record.GetPga()},
                                 {"points", record.Record.GetNP()}});
+        }
+    }
+    for (std::string& warning : warnings) {
+        if (!(options.rebaseTime && warning.find("--rebase-time") != std::string::npos)) {
+            std::cerr << "seisplot: warning: " << warning << '\n';
         }
     }
     SaveRecordSet(options.output, records);
@@ -146,10 +177,15 @@ void AddImportCommand(CLI::App& app, Action& action) {
                      "Length unit of the two-column files (time in s); asked at the terminal "
                      "when not given")
         ->check(CLI::IsMember({"mm", "cm", "m", "in"}));
+    command->add_flag("--rebase-time", options->rebaseTime,
+                      "Shift the times of a record that does not start at 0 so that it does");
     command->add_flag("-q,--quiet", options->quiet, "Print nothing on success");
     AddFormatFlags(*command, options->format, false);
-    command->footer("Files whose name is already a record's file name in the set are skipped. "
-                    "Nothing is written when a file cannot be read.");
+    command->footer(
+        "Files whose name is already a record's file name in the set are skipped. Nothing is "
+        "written when a file cannot be read, or holds a value that is not a finite number, "
+        "times that do not increase, an NDATA below 1 or no data line. Skipped lines, a "
+        "missing UNITS line and a record that does not start at 0 are warned of.");
     SetAction(*command, action, options, [](const ImportOptions& o) { RunImport(o, std::cout); });
 }
 

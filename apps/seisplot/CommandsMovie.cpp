@@ -9,6 +9,7 @@
 #include "AtomicFile.h"
 #include "Commands.h"
 #include "Errors.h"
+#include "FileChecks.h"
 
 #include "draw/gdi/Text.h"
 #include "movie/CAviFile.h"
@@ -122,6 +123,7 @@ void DrawFrames(PCurve& curve, CWnd& window, int frames, double fps, CAviFile& m
 
 void RunMovie(const MovieOptions& options, std::ostream& out) {
     CheckOutput(options.output);
+    RefuseOverwritingInput("-o", options.output, {{options.set, "the record set"}});
     const DWORD codec = CodecOf(options.codec);
     const PictureSize size = ParsePictureSize(options.size);
     AccelerogramColl records;
@@ -156,7 +158,7 @@ void AddMovieCommand(CLI::App& app, Action& action) {
     command->add_option("SET", options->set, "Record set (*.acc)")->required();
     command->add_option("N", options->record, "Record number (from 1)")
         ->required()
-        ->check(CLI::PositiveNumber);
+        ->check(kNumberFromOne);
     command->add_option("-o,--output", options->output, "The movie: FILE.avi")->required();
     command->add_option("--fps", options->fps, "Frames per second")
         ->capture_default_str()

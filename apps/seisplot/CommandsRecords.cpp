@@ -2,6 +2,8 @@
 
 #include "Archives.h"
 #include "Commands.h"
+#include "FileChecks.h"
+#include "RecordSampling.h"
 
 #include <cmath>
 #include <iostream>
@@ -9,25 +11,6 @@
 
 namespace seisplot::cli {
 namespace {
-
-// The sampling step when it is constant (consecutive steps within 1e-8 s, as the importers
-// judge it); nothing for a varying step or fewer than two points.
-std::optional<double> ConstantStep(const PCurve& curve) {
-    const int n = curve.GetNP();
-    if (n < 2) {
-        return std::nullopt;
-    }
-    const double first = curve[1].GetX() - curve[0].GetX();
-    double previous = first;
-    for (int i = 2; i < n; ++i) {
-        const double step = curve[i].GetX() - curve[i - 1].GetX();
-        if (std::fabs(step - previous) > 1.0e-8) {
-            return std::nullopt;
-        }
-        previous = step;
-    }
-    return (curve.GetMaxX() - curve.GetMinX()) / (n - 1);
-}
 
 double Duration(const PCurve& curve) {
     return curve.GetMaxX() - curve.GetMinX();
@@ -85,10 +68,10 @@ void RunList(const ListOptions& options, std::ostream& out) {
         const Accelerogram& r = records.GetAccelerogram(i);
         const std::optional<double> step = ConstantStep(r.Record);
         table.AddRow(
-            {std::to_string(i), r.Identifier.GetString(), Printf("%.4f", r.GetPga()),
+            {std::to_string(i), r.Identifier.GetString(), NumberText(r.GetPga()),
              std::to_string(r.Record.GetNP()),
-             step ? Printf("%.6g", *step) : std::string(r.Record.GetNP() < 2 ? "-" : "varying"),
-             Printf("%.3f", Duration(r.Record)), r.EventId.GetString(), Printf("%.2f", r.AngleWE),
+             step ? NumberText(*step) : std::string(r.Record.GetNP() < 2 ? "-" : "varying"),
+             NumberText(Duration(r.Record)), r.EventId.GetString(), NumberText(r.AngleWE),
              r.IsVertical ? "Z" : "-"});
     }
     if (options.format.Format() == OutputFormat::Text) {
@@ -180,7 +163,7 @@ void RunShow(const ShowOptions& options, std::ostream& out) {
         } else if (field.value.is_null()) {
             value = field.key == std::string("step_s") ? "varying" : "-";
         } else if (field.value.is_number_float()) {
-            value = Printf("%.6g", field.value.get<double>());
+            value = NumberText(field.value.get<double>());
         } else {
             value = field.value.dump();
         }
@@ -191,6 +174,7 @@ void RunShow(const ShowOptions& options, std::ostream& out) {
 
 void RunRecordPlot(const RecordPlotOptions& options, std::ostream& out) {
     CheckPlotOptions(options.plot);
+    RefuseOverwritingInput("-o", *options.plot.file, {{options.set, "the record set"}});
     AccelerogramColl records;
     LoadRecordSet(options.set, records);
     Accelerogram& record = RecordAt(records, options.record, options.set);
@@ -215,7 +199,7 @@ void AddRecordCommands(CLI::App& app, Action& action) {
     showCommand->add_option("SET", show->set, "Record set (*.acc)")->required();
     showCommand->add_option("N", show->record, "Record number (from 1)")
         ->required()
-        ->check(CLI::PositiveNumber);
+        ->check(kNumberFromOne);
     AddFormatFlags(*showCommand, show->format, false);
     SetAction(*showCommand, action, show, [](const ShowOptions& o) { RunShow(o, std::cout); });
 
@@ -224,7 +208,7 @@ void AddRecordCommands(CLI::App& app, Action& action) {
     plotCommand->add_option("SET", plot->set, "Record set (*.acc)")->required();
     plotCommand->add_option("N", plot->record, "Record number (from 1)")
         ->required()
-        ->check(CLI::PositiveNumber);
+        ->check(kNumberFromOne);
     plotCommand
         ->add_option("-o,--output", plot->plot.file, "Picture: FILE.png, FILE.svg or FILE.pdf")
         ->required();

@@ -3,6 +3,8 @@
 #include "Archives.h"
 #include "AtomicFile.h"
 #include "Commands.h"
+#include "FileChecks.h"
+#include "WorkLimits.h"
 
 #include "records/RecordReport.h"
 
@@ -25,14 +27,22 @@ void Deliver(const CString& text, const ReportOptions& options, std::ostream& ou
 } // namespace
 
 void RunRecordReport(const ReportOptions& options, std::ostream& out) {
+    CheckPeriodCount(options.maxPeriod, options.periodStep);
+    if (!options.output.empty()) {
+        RefuseOverwritingInput("-o", options.output, {{options.set, "the record set"}});
+    }
     AccelerogramColl records;
     LoadRecordSet(options.set, records);
     Accelerogram& record = RecordAt(records, options.number, options.set);
-    const CString text = BuildRecordReport(record, options.maxPeriod, options.periodStep);
+    const CString text = BuildRecordReport(record, GridEnd(options.maxPeriod, options.periodStep),
+                                           options.periodStep);
     Deliver(text, options, out, "record " + std::to_string(options.number));
 }
 
 void RunSpectrumReport(const ReportOptions& options, std::ostream& out) {
+    if (!options.output.empty()) {
+        RefuseOverwritingInput("-o", options.output, {{options.set, "the spectra archive"}});
+    }
     SpectrumColl spectra;
     LoadSpectrumSet(options.set, spectra);
     Spectrum& spectrum = SpectrumAt(spectra, options.number, options.set);
@@ -48,12 +58,14 @@ void AddReportCommands(CLI::App& app, Action& action) {
     command->add_option("SET", record->set, "Record set (*.acc)")->required();
     command->add_option("N", record->number, "Record number (from 1)")
         ->required()
-        ->check(CLI::PositiveNumber);
-    command->add_option("--tmax", record->maxPeriod, "Last period of the spectra (s)")
-        ->check(kPositive)
+        ->check(kNumberFromOne);
+    command
+        ->add_option("--tmax", record->maxPeriod,
+                     "Last period of the spectra (s), computed when it is a multiple of the step")
+        ->check(kSpectrumTmax)
         ->capture_default_str();
     command->add_option("--dt", record->periodStep, "Period step of the spectra (s)")
-        ->check(kPositive)
+        ->check(kSpectrumDt)
         ->capture_default_str();
     command->add_option("-o,--output", record->output,
                         "File to write the report to (default: the standard output)");
@@ -66,7 +78,7 @@ void AddReportCommands(CLI::App& app, Action& action) {
     spectrumCommand->add_option("FILE", spectrum->set, "Spectra archive")->required();
     spectrumCommand->add_option("N", spectrum->number, "Spectrum number (from 1)")
         ->required()
-        ->check(CLI::PositiveNumber);
+        ->check(kNumberFromOne);
     spectrumCommand->add_option("-o,--output", spectrum->output,
                                 "File to write the report to (default: the standard output)");
     SetAction(*spectrumCommand, action, spectrum,

@@ -3,6 +3,8 @@
 #include "Archives.h"
 #include "Commands.h"
 #include "Errors.h"
+#include "FileChecks.h"
+#include "WorkLimits.h"
 
 #include "spectra/Spectrum.h"
 
@@ -13,14 +15,20 @@
 namespace seisplot::cli {
 namespace {
 
-// The dampings asked for: one, or DS, 2·DS, ... up to DMAX.
+// The dampings asked for: one, or DS, 2·DS, ... up to DMAX; at most kMostDampings.
 std::vector<double> Dampings(const SpectrumOptions& options) {
     if (!options.dampingMax) {
         return {options.damping};
     }
     const double step = *options.dampingStep;
+    const double count = std::floor(*options.dampingMax / step * (1.0 + 1e-12));
+    if (count > static_cast<double>(kMostDampings)) {
+        BadUsage("--damping-step " + NumberText(step) + " up to --damping-max " +
+                 NumberText(*options.dampingMax) + " asks for " + Printf("%.0f", count) +
+                 " dampings; at most " + std::to_string(kMostDampings));
+    }
     std::vector<double> dampings;
-    for (int k = 1; k * step <= *options.dampingMax * (1.0 + 1e-12); ++k) {
+    for (int k = 1; k <= static_cast<int>(count); ++k) {
         dampings.push_back(k * step);
     }
     if (dampings.empty()) {
@@ -29,14 +37,18 @@ std::vector<double> Dampings(const SpectrumOptions& options) {
     return dampings;
 }
 
-// The periods 0, dt, 2·dt, ... up to tmax (a period within 1e-9·dt of tmax is included).
-std::vector<double> PeriodGrid(double maxPeriod, double step) {
-    std::vector<double> periods;
-    const auto n = static_cast<long>(std::floor(maxPeriod / step + 1e-9));
-    for (long i = 0; i <= n; ++i) {
-        periods.push_back(static_cast<double>(i) * step);
+// The end of the picture name of one damping's spectrum when there are several: "-xi0.050",
+// or the damping's every digit when three decimals do not tell the dampings apart.
+std::string DampingSuffix(const std::vector<double>& dampings, double damping) {
+    if (dampings.size() < 2) {
+        return "";
     }
-    return periods;
+    for (size_t i = 1; i < dampings.size(); ++i) {
+        if (Printf("%.3f", dampings[i]) == Printf("%.3f", dampings[i - 1])) {
+            return "-xi" + NumberText(damping);
+        }
+    }
+    return Printf("-xi%.3f", damping);
 }
 
 struct Curve {
@@ -48,10 +60,21 @@ struct Curve {
 
 void RunSpectrum(const SpectrumOptions& options, std::ostream& out) {
     CheckPlotOptions(options.plot);
+    CheckPeriodCount(options.maxPeriod, options.periodStep);
     const std::vector<double> dampings = Dampings(options);
+    if (options.plot.file) {
+        std::vector<std::string> pictures;
+        for (double damping : dampings) {
+            pictures.push_back(PlotPath(options.plot, DampingSuffix(dampings, damping)));
+        }
+        for (const std::string& picture : pictures) {
+            RefuseOverwritingInput("--plot", picture, {{options.set, "the record set"}});
+        }
+    }
     AccelerogramColl records;
     LoadRecordSet(options.set, records);
     Accelerogram& record = RecordAt(records, options.record, options.set);
+    const double gridEnd = GridEnd(options.maxPeriod, options.periodStep);
 
     const bool ads = options.kind == "ads";
     const char* heading = ads                     ? "Acceleration-displacement response spectrum"
@@ -67,7 +90,7 @@ void RunSpectrum(const SpectrumOptions& options, std::ostream& out) {
         int failed = 0;
         if (ads) {
             PMCurve result;
-            failed = record.GetADSpectrum(damping, options.maxPeriod, options.periodStep, result);
+            failed = record.GetADSpectrum(damping, gridEnd, options.periodStep, result);
             for (int i = 0; i < result.GetNP(); ++i) {
                 curve.points.emplace_back(result[i].GetX(), result[i].GetY() / Accelerogram::kG);
             }
@@ -76,10 +99,9 @@ void RunSpectrum(const SpectrumOptions& options, std::ostream& out) {
             }
         } else {
             PCurve result;
-            failed =
-                options.kind == "acc"
-                    ? record.GetAccSpectrum(damping, options.maxPeriod, options.periodStep, result)
-                    : record.GetDisSpectrum(damping, options.maxPeriod, options.periodStep, result);
+            failed = options.kind == "acc"
+                         ? record.GetAccSpectrum(damping, gridEnd, options.periodStep, result)
+                         : record.GetDisSpectrum(damping, gridEnd, options.periodStep, result);
             for (int i = 0; i < result.GetNP(); ++i) {
                 curve.points.emplace_back(result[i].GetX(), result[i].GetY());
             }
@@ -88,8 +110,11 @@ void RunSpectrum(const SpectrumOptions& options, std::ostream& out) {
             }
         }
         if (failed != 0 || curve.points.empty()) {
+            const PCurve& r = record.Record;
             Fail("no spectrum for record " + std::to_string(options.record) +
-                 ": it needs at least two points and a duration");
+                 (r.GetNP() < 2 || !(r.GetMaxX() > r.GetMinX())
+                      ? ": it needs at least two points and a duration"
+                      : ": the record is too long for steps of T/100 at the shortest period"));
         }
         curves.push_back(std::move(curve));
     }
@@ -99,9 +124,7 @@ void RunSpectrum(const SpectrumOptions& options, std::ostream& out) {
             spectra[i].SetName((std::string(heading) + " of " + record.Identifier.GetString() +
                                 Printf(", damping %.1f%%", 100.0 * damping))
                                    .c_str());
-            // Several dampings: one picture each, named by its damping.
-            WritePlot(options.plot, spectra[i],
-                      dampings.size() > 1 ? Printf("-xi%.3f", damping) : "");
+            WritePlot(options.plot, spectra[i], DampingSuffix(dampings, damping));
         }
     };
     writePlots(plots);
@@ -134,7 +157,7 @@ void RunSpectrum(const SpectrumOptions& options, std::ostream& out) {
         table.AddColumn("T (s)");
     }
     for (const Curve& curve : curves) {
-        const std::string damping = Printf(" xi=%.3f", curve.damping);
+        const std::string damping = " xi=" + NumberText(curve.damping);
         if (ads) {
             table.AddColumn("Sd (mm)" + damping);
         }
@@ -144,31 +167,29 @@ void RunSpectrum(const SpectrumOptions& options, std::ostream& out) {
     for (size_t i = 0; i < rows; ++i) {
         std::vector<std::string> cells;
         if (!ads) {
-            cells.push_back(Printf("%.3f", curves.front().points[i].first));
+            cells.push_back(NumberText(curves.front().points[i].first));
         }
         for (const Curve& curve : curves) {
             const bool has = i < curve.points.size();
             if (ads) {
-                cells.push_back(has ? Printf("%.3f", curve.points[i].first) : "");
+                cells.push_back(has ? NumberText(curve.points[i].first) : "");
             }
-            const double y = has ? curve.points[i].second : 0.0;
-            cells.push_back(!has                    ? ""
-                            : options.kind == "dis" ? Printf("%.3f", y)
-                                                    : Printf("%.5f", y));
+            cells.push_back(has ? NumberText(curve.points[i].second) : "");
         }
         table.AddRow(std::move(cells));
     }
     if (options.format.Format() == OutputFormat::Text) {
         out << heading << " of record " << options.record << " (" << record.Identifier.GetString()
             << ")"
-            << Printf(", periods up to %.3f s by %.3f s", options.maxPeriod, options.periodStep)
-            << '\n';
+            << ", periods up to " << NumberText(options.maxPeriod) << " s by "
+            << NumberText(options.periodStep) << " s\n";
     }
     table.Print(out, options.format.Format());
 }
 
 void RunCode(const CodeOptions& options, std::ostream& out) {
     CheckPlotOptions(options.plot);
+    CheckPeriodCount(options.maxPeriod, options.periodStep);
     const bool ntc = options.code == "ntc";
     if (ntc && (!options.f0 || !options.tcs)) {
         BadUsage("the NTC spectrum needs --f0 and --tcs");
@@ -226,11 +247,12 @@ void RunCode(const CodeOptions& options, std::ostream& out) {
         return;
     }
     if (options.format.Format() == OutputFormat::Text) {
-        out << (ntc ? "NTC " : "EC8 type 2 ") << kind << " spectrum: "
-            << Printf("ag %.4f g, soil %c, ST %.3f, damping %.3f, q %.3f", options.ag, soilLetter,
-                      options.st, options.xi, options.q);
+        out << (ntc ? "NTC " : "EC8 type 2 ") << kind << " spectrum: ag " << NumberText(options.ag)
+            << " g, soil " << soilLetter << ", ST " << NumberText(options.st) << ", damping "
+            << NumberText(options.xi) << ", q " << NumberText(options.q);
         if (ntc) {
-            out << Printf(", F0 %.3f, TC* %.3f s", *options.f0, *options.tcs);
+            out << ", F0 " << NumberText(*options.f0) << ", TC* " << NumberText(*options.tcs)
+                << " s";
         }
         out << '\n';
     }
@@ -238,7 +260,7 @@ void RunCode(const CodeOptions& options, std::ostream& out) {
     table.AddColumn("T (s)");
     table.AddColumn("Se (g)");
     for (const auto& [period, se] : points) {
-        table.AddRow({Printf("%.3f", period), Printf("%.5f", se)});
+        table.AddRow({NumberText(period), NumberText(se)});
     }
     table.Print(out, options.format.Format());
 }
@@ -250,7 +272,7 @@ void AddSpectrumCommands(CLI::App& app, Action& action) {
     command->add_option("SET", spectrum->set, "Record set (*.acc)")->required();
     command->add_option("N", spectrum->record, "Record number (from 1)")
         ->required()
-        ->check(CLI::PositiveNumber);
+        ->check(kNumberFromOne);
     command
         ->add_option("--kind", spectrum->kind,
                      "acc: spectral acceleration (g); dis: spectral displacement (mm); ads: "
@@ -269,11 +291,13 @@ void AddSpectrumCommands(CLI::App& app, Action& action) {
             ->check(kDampingRatio);
     dampingMax->needs(dampingStep)->excludes(damping);
     dampingStep->needs(dampingMax);
-    command->add_option("--tmax", spectrum->maxPeriod, "Last period (s)")
-        ->check(kPositive)
+    command
+        ->add_option("--tmax", spectrum->maxPeriod,
+                     "Last period (s), computed when it is a multiple of the step")
+        ->check(kSpectrumTmax)
         ->capture_default_str();
     command->add_option("--dt", spectrum->periodStep, "Period step (s)")
-        ->check(kPositive)
+        ->check(kSpectrumDt)
         ->capture_default_str();
     AddPlotOptions(*command, spectrum->plot);
     AddFormatFlags(*command, spectrum->format, true);
@@ -305,11 +329,13 @@ void AddSpectrumCommands(CLI::App& app, Action& action) {
     codeCommand->add_option("--f0", code->f0, "NTC: amplification factor F0")->check(kPositive);
     codeCommand->add_option("--tcs", code->tcs, "NTC: reference corner period TC* (s)")
         ->check(kPositive);
-    codeCommand->add_option("--tmax", code->maxPeriod, "Last period (s)")
-        ->check(kPositive)
+    codeCommand
+        ->add_option("--tmax", code->maxPeriod,
+                     "Last period (s), computed when it is a multiple of the step")
+        ->check(kSpectrumTmax)
         ->capture_default_str();
     codeCommand->add_option("--dt", code->periodStep, "Period step (s)")
-        ->check(kPositive)
+        ->check(kSpectrumDt)
         ->capture_default_str();
     AddPlotOptions(*codeCommand, code->plot);
     AddFormatFlags(*codeCommand, code->format, true);

@@ -1,6 +1,7 @@
 #include "ModesFile.h"
 
 #include "Errors.h"
+#include "FileChecks.h"
 
 #include <cmath>
 #include <cstdlib>
@@ -20,9 +21,10 @@ bool ParseNumber(const std::string& word, double& value) {
 } // namespace
 
 EnvelopeModes ReadModesFile(const std::string& path) {
+    CheckInput("the modes file", path);
     std::ifstream in(path);
     if (!in) {
-        Fail("cannot open the modes file " + path);
+        Fail("cannot read the modes file " + path);
     }
     EnvelopeModes modes;
     std::string line;

@@ -1,12 +1,19 @@
 #include "Output.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstdarg>
 #include <cstdio>
 #include <ostream>
 #include <stdexcept>
 
 namespace seisplot::cli {
+
+std::string NumberText(double value) {
+    char text[32];
+    const auto end = std::to_chars(text, text + sizeof text, value, std::chars_format::general).ptr;
+    return std::string(text, end);
+}
 
 std::string Printf(const char* format, ...) {
     va_list args;

@@ -14,6 +14,9 @@ using JsonValue = nlohmann::ordered_json;
 
 enum class OutputFormat { Text, Csv, Json };
 
+// The shortest text that reads back as the same double ("0.05", "1e-09", "nan").
+std::string NumberText(double value);
+
 // printf-style formatting into a std::string.
 std::string Printf(const char* format, ...) __attribute__((format(printf, 1, 2)));
 

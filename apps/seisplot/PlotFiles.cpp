@@ -88,8 +88,8 @@ PictureSize ParsePictureSize(const std::string& text) {
     int width = 0, height = 0;
     char x = 0, rest = 0;
     if (std::sscanf(text.c_str(), "%d%c%d%c", &width, &x, &height, &rest) != 3 ||
-        (x != 'x' && x != 'X') || width < 100 || height < 100 || width > 20000 || height > 20000) {
-        BadUsage("--size " + text + ": give WIDTHxHEIGHT in pixels, each 100 to 20000");
+        (x != 'x' && x != 'X') || width < 100 || height < 100 || width > 8000 || height > 8000) {
+        BadUsage("--size " + text + ": give WIDTHxHEIGHT in pixels, each 100 to 8000");
     }
     return {width, height};
 }
@@ -106,6 +106,10 @@ void CheckPlotOptions(const PlotOptions& options) {
         KindOf(*options.file);
         ParsePictureSize(options.size);
     }
+}
+
+std::string PlotPath(const PlotOptions& options, const std::string& suffix) {
+    return WithSuffix(*options.file, suffix);
 }
 
 void WritePlot(const PlotOptions& options, PCurve& curve, const std::string& suffix) {

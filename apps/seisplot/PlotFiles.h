@@ -21,12 +21,15 @@ struct PictureSize {
     int width;
     int height;
 };
-// "800x600": fails (BadUsage) unless it gives a width and a height of 100 to 20000 pixels.
+// "800x600": fails (BadUsage) unless it gives a width and a height of 100 to 8000 pixels.
 PictureSize ParsePictureSize(const std::string& text);
 
 // Fails (BadUsage) on an unknown extension or a bad size when a picture is asked for: run
 // before any work, so that a long computation does not end in a usage error.
 void CheckPlotOptions(const PlotOptions& options);
+
+// The picture file with `suffix` put before the extension ("a.png", "-2" -> "a-2.png").
+std::string PlotPath(const PlotOptions& options, const std::string& suffix);
 
 // Writes the plot of `curve`, with `suffix` put before the extension ("a.png", "-2" ->
 // "a-2.png"); fails (CommandError) on an unknown extension, a bad size or a file that cannot

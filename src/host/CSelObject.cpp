@@ -10,6 +10,27 @@ CRuntimeClass* CSelObject::GetRuntimeClass() const {
     return &classCSelObject;
 }
 
+CSelObject::CSelObject(const CSelObject& other)
+    : CObject(other),
+      m_details(other.m_details ? std::make_unique<Details>(*other.m_details) : nullptr) {}
+
+CSelObject::Details& CSelObject::Writable() {
+    if (!m_details) {
+        m_details = std::make_unique<Details>();
+    }
+    return *m_details;
+}
+
+void CSelObject::SetName(CString name) {
+    if (m_details || !name.IsEmpty()) {
+        Writable().name = std::move(name);
+    }
+}
+
+CString CSelObject::GetName() const {
+    return m_details ? m_details->name : CString();
+}
+
 CSelObject CSelObject::operator=(const CSelObject& other) {
     AssignSelection(other);
     return *this;
@@ -17,39 +38,47 @@ CSelObject CSelObject::operator=(const CSelObject& other) {
 
 void CSelObject::AssignSelection(const CSelObject& other) {
     if (this != &other) {
-        m_name = other.m_name;
-        m_lowViews = other.m_lowViews;
-        m_highViews = other.m_highViews;
+        m_details = other.m_details ? std::make_unique<Details>(*other.m_details) : nullptr;
     }
 }
 
 void CSelObject::Select(unsigned short view) {
+    Details& details = Writable();
     if (view < kLowViews) {
-        m_lowViews |= std::uint64_t{1} << view;
+        details.lowViews |= std::uint64_t{1} << view;
         return;
     }
-    const auto at = std::lower_bound(m_highViews.begin(), m_highViews.end(), view);
-    if (at == m_highViews.end() || *at != view) {
-        m_highViews.insert(at, view);
+    std::vector<unsigned short>& high = details.highViews;
+    const auto at = std::lower_bound(high.begin(), high.end(), view);
+    if (at == high.end() || *at != view) {
+        high.insert(at, view);
     }
 }
 
 void CSelObject::Unselect(unsigned short view) {
-    if (view < kLowViews) {
-        m_lowViews &= ~(std::uint64_t{1} << view);
+    if (!m_details) {
         return;
     }
-    const auto at = std::lower_bound(m_highViews.begin(), m_highViews.end(), view);
-    if (at != m_highViews.end() && *at == view) {
-        m_highViews.erase(at);
+    if (view < kLowViews) {
+        m_details->lowViews &= ~(std::uint64_t{1} << view);
+        return;
+    }
+    std::vector<unsigned short>& high = m_details->highViews;
+    const auto at = std::lower_bound(high.begin(), high.end(), view);
+    if (at != high.end() && *at == view) {
+        high.erase(at);
     }
 }
 
 int CSelObject::IsSelected(unsigned short view) const {
-    if (view < kLowViews) {
-        return (m_lowViews >> view) & 1u ? 1 : 0;
+    if (!m_details) {
+        return 0;
     }
-    return std::binary_search(m_highViews.begin(), m_highViews.end(), view) ? 1 : 0;
+    if (view < kLowViews) {
+        return (m_details->lowViews >> view) & 1u ? 1 : 0;
+    }
+    const std::vector<unsigned short>& high = m_details->highViews;
+    return std::binary_search(high.begin(), high.end(), view) ? 1 : 0;
 }
 
 void CSelObject::Change(unsigned short view) {
@@ -63,13 +92,15 @@ void CSelObject::Change(unsigned short view) {
 void CSelObject::Serialize(CArchive& ar) {
     if (ar.IsStoring()) {
         std::vector<WORD> views;
-        for (unsigned v = 0; v < kLowViews; ++v) {
-            if ((m_lowViews >> v) & 1u) {
-                views.push_back(static_cast<WORD>(v));
+        if (m_details) {
+            for (unsigned v = 0; v < kLowViews; ++v) {
+                if ((m_details->lowViews >> v) & 1u) {
+                    views.push_back(static_cast<WORD>(v));
+                }
             }
+            views.insert(views.end(), m_details->highViews.begin(), m_details->highViews.end());
         }
-        views.insert(views.end(), m_highViews.begin(), m_highViews.end());
-        ar << m_name << static_cast<WORD>(views.size());
+        ar << GetName() << static_cast<WORD>(views.size());
         for (WORD v : views) {
             ar << v;
         }
@@ -92,12 +123,17 @@ void CSelObject::Serialize(CArchive& ar) {
     }
     std::sort(high.begin(), high.end());
     high.erase(std::unique(high.begin(), high.end()), high.end());
-    m_name = std::move(name);
-    m_lowViews = low;
-    m_highViews = std::move(high);
+    if (name.IsEmpty() && low == 0 && high.empty()) {
+        m_details.reset();
+        return;
+    }
+    Details& details = Writable();
+    details.name = std::move(name);
+    details.lowViews = low;
+    details.highViews = std::move(high);
 }
 
 void CSelObject::Dump(CDumpContext& dc) const {
     CObject::Dump(dc);
-    dc << "name: " << m_name << "\n";
+    dc << "name: " << GetName() << "\n";
 }

@@ -3,16 +3,21 @@
 //
 // Archive form: the name (string), a 16-bit count of the views whose flag is set, then each
 // of those view numbers (16-bit) in increasing order.
+//
+// Most selectable objects are the points of long curves, which carry neither a name nor a
+// flag: the name and flags live in a block of their own, made when the first of them is set,
+// so an object without them costs one pointer beside its virtual table.
 
 #include "platform/core/CObject.h"
 
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 class CSelObject : public CObject {
 public:
     CSelObject() = default;
-    CSelObject(const CSelObject& other) = default;
+    CSelObject(const CSelObject& other);
     // Assigns name and flags and returns a copy, as the host's callers expect.
     CSelObject operator=(const CSelObject& other);
     ~CSelObject() override = default;
@@ -21,15 +26,17 @@ public:
     void Serialize(CArchive& ar) override;
     void Dump(CDumpContext& dc) const override;
 
-    void SetName(CString name) { m_name = std::move(name); }
-    CString GetName() const { return m_name; }
+    void SetName(CString name);
+    CString GetName() const;
 
     void Select(unsigned short view);
     void Unselect(unsigned short view);
     int IsSelected(unsigned short view) const;
     void Change(unsigned short view);
     // Whether the flag of any view is set.
-    bool IsAnySelected() const { return m_lowViews != 0 || !m_highViews.empty(); }
+    bool IsAnySelected() const {
+        return m_details && (m_details->lowViews != 0 || !m_details->highViews.empty());
+    }
 
     static CRuntimeClass classCSelObject;
 
@@ -40,7 +47,13 @@ protected:
 private:
     static constexpr unsigned kLowViews = 64;
 
-    CString m_name;
-    std::uint64_t m_lowViews = 0;            // views 0 to 63, one bit each
-    std::vector<unsigned short> m_highViews; // views from 64 on, sorted
+    struct Details {
+        CString name;
+        std::uint64_t lowViews = 0;            // views 0 to 63, one bit each
+        std::vector<unsigned short> highViews; // views from 64 on, sorted
+    };
+    // The details, made when missing.
+    Details& Writable();
+
+    std::unique_ptr<Details> m_details; // null: no name and no flag
 };

@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstring>
 #include <fstream>
+#include <limits>
 #include <string>
 
 namespace {
@@ -19,6 +20,36 @@ bool IsComment(const std::string& line) {
 
 // Successive steps count as one constant step within this tolerance (seconds).
 constexpr double kStepTolerance = 1.0e-8;
+
+// How many lines of `in` could hold a point: at least three characters ("0 0") and not a
+// comment; `in` is left at its start. Long records are sized once from it instead of growing
+// by doubling, which holds up to three times their points during the last growth.
+long CountDataLines(std::ifstream& in) {
+    long lines = 0;
+    long length = 0;
+    char first = '\0';
+    char block[1 << 16];
+    const auto endLine = [&] {
+        if (length >= 3 && std::strchr("$%\\&#", first) == nullptr) {
+            ++lines;
+        }
+        length = 0;
+    };
+    while (in.read(block, sizeof block) || in.gcount() > 0) {
+        const auto size = static_cast<size_t>(in.gcount());
+        for (size_t i = 0; i < size; ++i) {
+            if (block[i] == '\n') {
+                endLine();
+            } else if (length++ == 0) {
+                first = block[i];
+            }
+        }
+    }
+    endLine();
+    in.clear();
+    in.seekg(0);
+    return lines;
+}
 
 } // namespace
 
@@ -36,6 +67,10 @@ int Accelerogram::ReadTXTPLT(int quiet, CString name, CString path, Units& units
         return 1;
     }
     PrepareImport();
+    const long lines = CountDataLines(in);
+    if (lines <= std::numeric_limits<int>::max()) {
+        Record.GetPColl().Reserve(static_cast<int>(lines));
+    }
     double pga = 0.0;
     double tmax = -1.0e12;
     double tmin = 1.0e12;

@@ -10,6 +10,7 @@
 #include <gmock/gmock.h>
 
 #include <csignal>
+#include <set>
 #include <sstream>
 
 using seisplot::test::CliResult;
@@ -38,7 +39,9 @@ TEST(CliSpectrum, OrdinatesAreTheRecordSpectra) {
     for (const auto& curve : acc["curves"]) {
         const double xi = curve["damping"].get<double>();
         PCurve expected;
-        ASSERT_EQ(record.GetAccSpectrum(xi, 1.5, 0.05, expected), 0);
+        // The last period asked for is computed although 30 steps of 0.05 add up above 1.5.
+        ASSERT_EQ(record.GetAccSpectrum(xi, 1.5 + 1e-8, 0.05, expected), 0);
+        ASSERT_EQ(expected.GetNP(), 31);
         ASSERT_EQ(curve["points"].size(), static_cast<size_t>(expected.GetNP())) << xi;
         for (int i = 0; i < expected.GetNP(); ++i) {
             EXPECT_DOUBLE_EQ(curve["points"][i]["period_s"].get<double>(), expected[i].GetX());
@@ -47,23 +50,38 @@ TEST(CliSpectrum, OrdinatesAreTheRecordSpectra) {
     }
     EXPECT_NEAR(acc["curves"][1]["damping"].get<double>(), 0.10, 1e-15);
 
-    // CSV: the ordinate at 0.7 s, to five decimals, is the single-period spectral acceleration.
+    // CSV: every number reads back as the double computed; the period is the grid's running
+    // sum of steps and the ordinate the single-period spectral acceleration there, and the
+    // step 0.0005 gives 2001 distinct periods.
     CliResult r = event.Run({"spectrum", event.set, "2", "--tmax", "1", "--dt", "0.1", "--csv"});
     ASSERT_EQ(r.status, 0) << r.err;
     std::istringstream lines(r.out);
     std::string line;
     std::getline(lines, line);
-    EXPECT_EQ(line, "T (s),Sa (g) xi=0.050");
+    EXPECT_EQ(line, "T (s),Sa (g) xi=0.05");
+    double period = 0.0;
+    for (int i = 0; i <= 7; ++i) {
+        std::getline(lines, line);
+        period += i > 0 ? 0.1 : 0.0;
+    }
     double sa = 0.0;
-    ASSERT_EQ(record.GetAccSpectrum(0.05, 0.7, &sa), 0);
-    char row[64];
-    std::snprintf(row, sizeof row, "0.700,%.5f\n", sa);
-    EXPECT_THAT(r.out, HasSubstr(row));
+    ASSERT_EQ(record.GetAccSpectrum(0.05, period, &sa), 0);
+    const size_t comma = line.find(',');
+    EXPECT_EQ(std::stod(line.substr(0, comma)), period) << line;
+    EXPECT_EQ(std::stod(line.substr(comma + 1)), sa) << line;
+    r = event.Run({"spectrum", event.set, "2", "--tmax", "1", "--dt", "0.0005", "--csv"});
+    std::istringstream fine(r.out);
+    std::set<std::string> periods;
+    for (std::getline(fine, line); std::getline(fine, line);) {
+        periods.insert(line.substr(0, line.find(',')));
+    }
+    EXPECT_EQ(periods.size(), 2001u);
 
     const nlohmann::json dis =
         event.Json({"spectrum", event.set, "2", "--kind", "dis", "--tmax", "1", "--json"});
     PCurve displacement;
-    ASSERT_EQ(record.GetDisSpectrum(0.05, 1.0, 0.01, displacement), 0);
+    ASSERT_EQ(record.GetDisSpectrum(0.05, 1.0 + 1e-8, 0.01, displacement), 0);
+    ASSERT_EQ(displacement.GetNP(), 101);
     ASSERT_EQ(dis["curves"][0]["points"].size(), static_cast<size_t>(displacement.GetNP()));
     EXPECT_DOUBLE_EQ(dis["curves"][0]["points"][80]["sd_mm"].get<double>(),
                      displacement[80].GetY());
@@ -203,12 +221,13 @@ TEST(CliReports, TextsAreTheLibraryReports) {
     CliResult r = event.Run({"report", event.set, "1", "--tmax", "1", "--dt", "0.25"});
     ASSERT_EQ(r.status, 0) << r.err;
     EXPECT_EQ(r.out, std::string(BuildRecordReport(records.GetAccelerogram(1), 1.0, 0.25)));
+    EXPECT_THAT(r.out, HasSubstr("   1.000      "));
 
     const std::string file = event.dir.Path("report.txt");
     r = event.Run({"report", event.set, "3", "-o", file});
     ASSERT_EQ(r.status, 0) << r.err;
     EXPECT_EQ(seisplot::test::CliProcess::Slurp(file),
-              std::string(BuildRecordReport(records.GetAccelerogram(3), 2.0, 0.1)));
+              std::string(BuildRecordReport(records.GetAccelerogram(3), 2.0 + 1e-7, 0.1)));
 
     const std::string spectra = event.dir.Path("spectra.spc");
     ASSERT_EQ(
