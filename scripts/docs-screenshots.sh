@@ -21,6 +21,14 @@ imports=()
 for f in data/samples/*.ASC data/samples/*.RA data/samples/*.TR data/samples/*.UP; do
     imports+=(--import "$f")
 done
+# Two envelope spectra of the samples, made by the command line, for the spectrum dialogs.
+seisplot=$build/apps/seisplot/seisplot
+"$seisplot" import data/samples/*.ASC --quiet -o "$folder/set.acc" >/dev/null
+"$seisplot" envelope "$folder/set.acc" --modes data/samples/structure.modes \
+    --spectra "$folder/demo.spc" >/dev/null
+"$seisplot" envelope "$folder/set.acc" --tmax 3 --dt 0.02 --percentile 84 \
+    --spectra "$folder/demo.spc" >/dev/null
+imports+=(--import "$folder/demo.spc")
 "$studio" "${imports[@]}" --save-as "$project" --quit
 # Two records copied to the project's curves, for the curve dialogs.
 "$studio" "$project" --select Records/1 --action copyToCurves --save-as "$project" --quit
@@ -41,6 +49,8 @@ shot curve-mixing mixCurves --select Curves/1
 shot record-management manageRecords --select Records/1
 shot record-details recordDetails --select Records/1
 shot time-function timeFunction
+shot spectrum-editor editSpectra --select Spectra/1
+shot envelope-spectra envelopeSpectra --modes data/samples/structure.modes
 # A T-shaped section in the polygon dialog, and its preset shapes over it.
 section="0,0 30,0 30,60 60,60 60,70 -30,70 -30,60 0,60"
 shot studio-polygon-dialog polygonInput --polygon "$section" --select Polygon

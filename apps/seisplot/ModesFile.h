@@ -1,7 +1,6 @@
 #pragma once
-// The modes file of a structure: one line "period X Y Z" per mode (period in s, then the
-// mode's participation fractions along X, Y and Z); blank lines and everything after a '#'
-// are ignored. Every mode is checked.
+// The modes file of a structure (see spectra/ModesFile.h), as the command line reads it: the
+// file checked first, so that a message names the real cause.
 
 #include "spectra/Envelope.h"
 
@@ -9,8 +8,7 @@
 
 namespace seisplot::cli {
 
-// Fails (CommandError) naming the file and line of the first line that is not a mode, and for
-// a file without modes.
+// Fails (CommandError) with the reader's message.
 EnvelopeModes ReadModesFile(const std::string& path);
 
 } // namespace seisplot::cli

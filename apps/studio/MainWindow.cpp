@@ -10,6 +10,7 @@
 #include "host/dialogs/CoordinateDialogs.h"
 #include "platform/core/Product.h"
 #include "platform/core/UserInterface.h"
+#include "spectra/ModesFile.h"
 
 #include <QAction>
 #include <QApplication>
@@ -101,6 +102,8 @@ void MainWindow::BuildMenus() {
     add(file, "saveProjectAs", tr("Save project &as..."), [this] { SaveAs(); });
     file->addSeparator();
     add(file, "importRecords", tr("&Import record files..."), [this] { ImportRecordFiles(); });
+    add(file, "importSpectra", tr("Import a s&pectra archive..."),
+        [this] { ImportSpectraArchive(); });
     file->addSeparator();
     add(
         file, "quit", tr("&Quit"), [] { QApplication::quit(); }, QKeySequence::Quit);
@@ -136,6 +139,10 @@ void MainWindow::BuildMenus() {
     add(curves, "mixCurves", tr("Curve &mixing..."), [this] { MixCurves(); });
     add(curves, "showPolylines", tr("&Polyline display..."), [this] { ShowPolylines(); });
     add(curves, "mixPolylines", tr("Po&lyline mixing..."), [this] { MixPolylines(); });
+
+    QMenu* spectra = menuBar()->addMenu(tr("&Spectra"));
+    add(spectra, "editSpectra", tr("Spectrum &editor..."), [this] { EditSpectra(); });
+    add(spectra, "envelopeSpectra", tr("E&nvelope spectra..."), [this] { EnvelopeSpectra(); });
 
     QMenu* view = menuBar()->addMenu(tr("&View"));
     add(view, "showStructure", tr("&Structure in GDI and OpenGL..."), [this] { ShowStructure(); });
@@ -302,6 +309,12 @@ void MainWindow::ImportRecordFiles() {
 
 bool MainWindow::ImportRecords(const QStringList& paths) {
     for (const QString& path : paths) {
+        if (QFileInfo(path).suffix().compare(QLatin1String("spc"), Qt::CaseInsensitive) == 0) {
+            if (!ImportSpectra(path)) {
+                return false;
+            }
+            continue;
+        }
         Accelerogram record;
         const QByteArray bytes = path.toLocal8Bit();
         const CString name = QFileInfo(path).fileName().toLocal8Bit().constData();
@@ -312,6 +325,32 @@ bool MainWindow::ImportRecords(const QStringList& paths) {
     }
     Refresh();
     return true;
+}
+
+bool MainWindow::ImportSpectra(const QString& path) {
+    SpectrumColl read;
+    CString file(path.toLocal8Bit().constData());
+    try {
+        read.ReadFromFile(file);
+    } catch (CException* e) {
+        e->ReportError();
+        e->Delete();
+        return false;
+    }
+    for (unsigned long i = 1; i <= read.GetSpectrumNum(); ++i) {
+        m_project.spectra.AddSpectrum(*read.GetP(i));
+    }
+    Refresh();
+    return true;
+}
+
+void MainWindow::ImportSpectraArchive() {
+    const QString path =
+        QFileDialog::getOpenFileName(this, tr("Import a spectra archive"), QFileInfo(m_path).path(),
+                                     tr("Spectra archives (*.spc);;All files (*)"));
+    if (!path.isEmpty()) {
+        ImportSpectra(path);
+    }
 }
 
 void MainWindow::EditPolygon() {
@@ -432,6 +471,36 @@ void MainWindow::BuildTimeFunction() {
     m_project.curves.AddPCurve(function);
     Refresh();
     SelectItem(QStringLiteral("Curves/%1").arg(m_project.curves.GetPCurveNum()));
+}
+
+void MainWindow::EditSpectra() {
+    if (m_project.spectra.GetData(&m_project.units) == 0) {
+        Refresh();
+    }
+}
+
+void MainWindow::EnvelopeSpectra() {
+    QString path = m_modesFile;
+    if (path.isEmpty()) {
+        path = QFileDialog::getOpenFileName(
+            this, tr("The structure's modes"), QFileInfo(m_path).path(),
+            tr("Modes of a structure (*.modes *.txt);;All files (*)"));
+        if (path.isEmpty()) {
+            return;
+        }
+    }
+    EnvelopeModes modes;
+    std::string error;
+    if (!seisplot::ReadModesFile(path.toLocal8Bit().toStdString(), modes, error)) {
+        AfxMessageBox(error.c_str());
+        return;
+    }
+    m_modesFile = path;
+    if (m_project.spectra.GetData(
+            &m_project.records, static_cast<unsigned long>(modes.Periods.size()),
+            modes.Periods.data(), modes.Shares.data(), &m_project.units) == 0) {
+        Refresh();
+    }
 }
 
 void MainWindow::CopySelectedToCurves() {

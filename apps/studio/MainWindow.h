@@ -22,8 +22,10 @@ public:
     Project& CurrentProject() { return m_project; }
     bool OpenProject(const QString& path);
     bool SaveProjectAs(const QString& path);
-    // Imports record files as the multi-file import does, without asking for them.
+    // Imports record files as the multi-file import does, without asking for them; a spectra
+    // archive (*.spc, as the command line writes it) adds its spectra.
     bool ImportRecords(const QStringList& paths);
+    bool ImportSpectra(const QString& path);
     // Selects the item a path in the side panel names: "Records/2", "Polygon", ...
     bool SelectItem(const QString& path);
     PlotView& View() { return *m_view; }
@@ -33,6 +35,8 @@ public:
 
     // Rebuilds the side panel and redraws the view from the project.
     void Refresh();
+    // The structure's modes file for the envelope spectra (asked for when not set).
+    void SetModesFile(const QString& path) { m_modesFile = path; }
 
 private:
     void BuildMenus();
@@ -44,6 +48,7 @@ private:
     void Save();
     void SaveAs();
     void ImportRecordFiles();
+    void ImportSpectraArchive();
     // Polygon menu: the library's polygon dialog, and the geometry library's dialogs one by one
     void EditPolygon();
     void AddPoint();
@@ -69,6 +74,10 @@ private:
     void MixPolylines();
     // Where the display dialogs save a changed collection: beside the project.
     QString CollectionPath(const char* extension) const;
+    // Spectra menu: the spectrum editor on the project's spectra, and the envelope spectrum
+    // dialog on the project's records with the structure's modes
+    void EditSpectra();
+    void EnvelopeSpectra();
     // View menu
     void ShowStructure();
     // Settings menu
@@ -78,6 +87,7 @@ private:
 
     Project m_project;
     QString m_path;
+    QString m_modesFile;
     QTreeWidget* m_panel;
     PlotView* m_view;
     QPointer<StructureWindow> m_structure;

@@ -58,7 +58,8 @@ int main(int argc, char** argv) {
     parser.addHelpOption();
     parser.addPositionalArgument("project", "A project file (*.spj) to open.", "[project]");
     const QCommandLineOption language({"l", "language"}, "Texts in English or Italian.", "en|it");
-    const QCommandLineOption import("import", "Import an ITACA record file (repeatable).", "file");
+    const QCommandLineOption import(
+        "import", "Import an ITACA record file or a spectra archive (*.spc) (repeatable).", "file");
     const QCommandLineOption polygon("polygon", "Make these vertices the polygon.", "x,y x,y ...");
     const QCommandLineOption select("select", "Select an item: Records/2, Polygon, ...", "item");
     const QCommandLineOption action(
@@ -75,11 +76,14 @@ int main(int argc, char** argv) {
                                     "file");
     const QCommandLineOption dialogShot("dialog-screenshot",
                                         "Photograph the screen with that dialog shown.", "png");
+    const QCommandLineOption modes(
+        "modes", "The structure's modes file for the envelope spectra (period X Y Z lines).",
+        "file");
     const QCommandLineOption structureShot(
         "structure-screenshot", "Open the structure window and write a picture of it.", "png");
     const QCommandLineOption quit("quit", "End after the steps above instead of staying open.");
-    parser.addOptions({language, import, polygon, select, action, saveAs, shot, dialog, click,
-                       report, dialogShot, structureShot, quit});
+    parser.addOptions({language, import, polygon, select, action, modes, saveAs, shot, dialog,
+                       click, report, dialogShot, structureShot, quit});
     parser.process(app);
     if (parser.isSet(language)) {
         qputenv("SEISPLOT_LANG", parser.value(language).toLatin1());
@@ -98,6 +102,7 @@ int main(int argc, char** argv) {
     seisplot::ScopedDialogDriver dialogScope(dialogs);
 
     seisplot::studio::MainWindow window;
+    window.SetModesFile(parser.value(modes));
     window.show();
     seisplot::studio::AutomationSteps steps;
     steps.project = parser.positionalArguments().value(0);

@@ -239,6 +239,38 @@
         <source>&amp;Structure in GDI and OpenGL...</source>
         <translation>&amp;Struttura in GDI e OpenGL...</translation>
     </message>
+    <message>
+        <source>&amp;Spectra</source>
+        <translation>&amp;Spettri</translation>
+    </message>
+    <message>
+        <source>Spectrum &amp;editor...</source>
+        <translation>&amp;Editor degli spettri...</translation>
+    </message>
+    <message>
+        <source>E&amp;nvelope spectra...</source>
+        <translation>Spettri di i&amp;nviluppo...</translation>
+    </message>
+    <message>
+        <source>The structure&apos;s modes</source>
+        <translation>I modi della struttura</translation>
+    </message>
+    <message>
+        <source>Modes of a structure (*.modes *.txt);;All files (*)</source>
+        <translation>Modi di una struttura (*.modes *.txt);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Import a s&amp;pectra archive...</source>
+        <translation>Importa un archivio di s&amp;pettri...</translation>
+    </message>
+    <message>
+        <source>Import a spectra archive</source>
+        <translation>Importa un archivio di spettri</translation>
+    </message>
+    <message>
+        <source>Spectra archives (*.spc);;All files (*)</source>
+        <translation>Archivi di spettri (*.spc);;Tutti i file (*)</translation>
+    </message>
 </context>
 <context>
     <name>seisplot::studio::StructureWindow</name>

@@ -141,10 +141,14 @@ TEST_F(SpectrumDialogsTest, TheEnvelopeDialogListsPatternsAndModesAndRunsAsTheLi
         EXPECT_EQ(d.Caption(), "Envelope spectrum");
         EXPECT_EQ(d.Lines(kRecords)[6], "    7 - R7");
         EXPECT_EQ(checks(d), (std::vector<int>{0, 1, 2, 3, 4, 5, 6}));
-        EXPECT_EQ(d.Lines(kModes),
+        // The texts keep their line feed; the list shows each on one line.
+        auto& dialog = dynamic_cast<ManageSpectra&>(d.Dialog());
+        EXPECT_EQ(dialog.ModeTexts,
                   (std::vector<CString>{
                       "Mode=    1  Period=  0.500  %X= 60.000  %Y= 10.000  %Z=  0.000\n",
                       "Mode=    2  Period=  0.250  %X=  5.000  %Y= 70.000  %Z=  2.000\n"}));
+        EXPECT_EQ(d.Lines(kModes)[1],
+                  "Mode=    2  Period=  0.250  %X=  5.000  %Y= 70.000  %Z=  2.000 ");
         d.Click(14792);
         EXPECT_EQ(checks(d), (std::vector<int>{0, 3, 6}));
         d.Click(14795);

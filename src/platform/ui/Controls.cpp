@@ -47,8 +47,16 @@ CString FrameworkText(const QString& text) {
     return CString(bytes.constData(), static_cast<int>(bytes.size()));
 }
 
+// A list line keeps its text as given (GetText answers it whole) and shows it on one line, as
+// the framework's list boxes do: line ends are not drawn.
+constexpr int kTextRole = Qt::UserRole;
+
 QListWidgetItem* NewLine(QListWidget& list, LPCTSTR text) {
-    auto* item = new QListWidgetItem(QtText(text));
+    const QString given = QtText(text);
+    QString shown = given;
+    shown.remove(QLatin1Char('\r')).replace(QLatin1Char('\n'), QLatin1Char(' '));
+    auto* item = new QListWidgetItem(shown);
+    item->setData(kTextRole, given);
     if (list.property("checkList").toBool()) {
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(Qt::Unchecked);
@@ -131,7 +139,7 @@ int CListBox::GetText(int index, CString& text) const {
     if (list == nullptr || index < 0 || index >= list->count()) {
         return LB_ERR;
     }
-    text = FrameworkText(list->item(index)->text());
+    text = FrameworkText(list->item(index)->data(kTextRole).toString());
     return text.GetLength();
 }
 
