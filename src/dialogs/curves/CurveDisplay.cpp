@@ -3,7 +3,7 @@
 #include "dialogs/PictureCopy.h"
 #include "dialogs/TextViewer.h"
 #include "dialogs/curves/CurveMixing.h"
-#include "host/CurveFormula.h"
+#include "host/CurveListing.h"
 #include "platform/core/CFileDialog.h"
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/PrintDialog.h"
@@ -44,20 +44,9 @@ constexpr int kUpdate = 14787;
 constexpr int kXLines = 14788;
 constexpr int kYLines = 14789;
 
-using seisplot::UnitKind;
-
 // Point marks made in this dialog are those of view 1.
 constexpr unsigned short kMarkLayer = 1;
 constexpr const char* kNoContext = "Error getting DC. Too many commands?";
-
-// A listed value as the user reads it, by the unit kind of its axis; the listing also converts
-// the moments that plots leave as held. Without units, values are shown as held.
-double Displayed(const Units* u, UnitKind kind, double v) {
-    if (u == nullptr) {
-        return v;
-    }
-    return kind == UnitKind::ListedMoment ? u->M_U(v) : seisplot::ToDisplayedUnits(*u, kind, v);
-}
 
 template <class Kind> struct MixerFor;
 template <> struct MixerFor<seisplot::FunctionCurves> { using Dialog = MixPCurve; };
@@ -144,16 +133,7 @@ template <class Kind> typename Kind::Curve* CurveDisplay<Kind>::SelectedCurve() 
 template <class Kind> void CurveDisplay<Kind>::ListPoints(const typename Kind::Curve& curve) {
     m_data.ResetContent();
     for (int k = 1; k <= curve.GetNP(); ++k) {
-        const RPoint2D& point = curve[k - 1];
-        double first = Displayed(UnitSystem, curve.XUnit, point.GetX());
-        double second = Displayed(UnitSystem, curve.YUnit, point.GetY());
-        if (SwapAxes != 0) {
-            std::swap(first, second);
-        }
-        CString line;
-        line.Format("%5ld  %12.3le  %12.3le  %s          ", static_cast<long>(k), first, second,
-                    point.GetName().GetString());
-        m_data.AddString(line);
+        m_data.AddString(CurveListingLine(curve, k, UnitSystem, SwapAxes != 0));
     }
 }
 

@@ -10,8 +10,8 @@
 // start only when Path is not empty) or leaves both for the user to read a file; after
 // DoModal it takes Coll and Modified. With OK and Modified set the dialog has offered to save.
 
-#include "dialogs/curves/CurveKinds.h"
 #include "draw/font/SFont.h"
+#include "host/CurveKinds.h"
 #include "host/Units.h"
 #include "platform/ui/CDialog.h"
 #include "platform/ui/Controls.h"

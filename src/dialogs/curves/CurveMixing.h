@@ -7,8 +7,8 @@
 // The caller assigns its collection to Coll, runs DoModal and, on IDOK, takes Coll back. No
 // operation changes Coll unless it completes.
 
-#include "dialogs/curves/CurveKinds.h"
 #include "host/CurveFormula.h"
+#include "host/CurveKinds.h"
 #include "host/Units.h"
 #include "platform/ui/CDialog.h"
 #include "platform/ui/Controls.h"

@@ -11,6 +11,7 @@
 #include "records/AccelerogramColl.h"
 #include "records/RecordReport.h"
 #include "records/Sinusoids.h"
+#include "records/SpectrumCurves.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -358,31 +359,24 @@ void ManageAccelerograms::OnBnClickedAccelSinusAdd() {
 }
 
 void ManageAccelerograms::OnBnClickedAccelSpectrumAcc() {
-    PlotSpectra(SpectrumKind::Acceleration);
+    PlotSpectra(seisplot::SpectrumCurveKind::Acceleration);
 }
 
 void ManageAccelerograms::OnBnClickedAccelSpectrumDis() {
-    PlotSpectra(SpectrumKind::Displacement);
+    PlotSpectra(seisplot::SpectrumCurveKind::Displacement);
 }
 
 void ManageAccelerograms::OnBnClickedAccelSpectrumAds() {
-    PlotSpectra(SpectrumKind::AccelerationDisplacement);
+    PlotSpectra(seisplot::SpectrumCurveKind::AccelerationDisplacement);
 }
 
-void ManageAccelerograms::PlotSpectra(SpectrumKind kind) {
+void ManageAccelerograms::PlotSpectra(seisplot::SpectrumCurveKind curveKind) {
     Accelerogram* record = nullptr;
     if (!Selected(record, false) || !UpdateData(TRUE)) {
         return;
     }
-    using seisplot::UnitKind;
+    using seisplot::SpectrumCurveKind;
     const CString title = "Spectrum: " + record->GetIdentifier();
-    const auto label = [this](const char* text, const char* unit) {
-        CString name = text;
-        if (UnitSystem != nullptr) {
-            name.AppendFormat("(%s)", unit);
-        }
-        return name;
-    };
     PCurveColl functions;
     PMCurveColl polylines;
     {
@@ -391,31 +385,19 @@ void ManageAccelerograms::PlotSpectra(SpectrumKind kind) {
         m_spectraProgress.SetRange(0, static_cast<short>(steps >= 0.0 ? steps : 0.0));
         m_spectraProgress.SetStep(1);
         for (double d = DampingStep; LargestDamping >= d; d += DampingStep) {
-            CString name;
-            name.Format("Damp = %7.3lf", d);
-            if (kind == SpectrumKind::AccelerationDisplacement) {
+            if (curveKind == SpectrumCurveKind::AccelerationDisplacement) {
                 PMCurve curve;
                 record->GetADSpectrum(d, LastPeriod, PeriodStep, curve);
-                curve.SetName(name);
-                curve.XUnit = UnitKind::Length;
-                curve.XName = "Se,d";
-                curve.YUnit = UnitKind::Acceleration;
-                curve.YName = label("Se,a ", UnitSystem ? UnitSystem->GetAccString() : "");
+                seisplot::LabelSpectrumCurve(curve, curveKind, d, UnitSystem);
                 polylines.AddPMCurve(curve);
             } else {
                 PCurve curve;
-                if (kind == SpectrumKind::Acceleration) {
+                if (curveKind == SpectrumCurveKind::Acceleration) {
                     record->GetAccSpectrum(d, LastPeriod, PeriodStep, curve);
-                    curve.YUnit = UnitKind::PureNumber;
-                    curve.YName = "Se(T) [g]";
                 } else {
                     record->GetDisSpectrum(d, LastPeriod, PeriodStep, curve);
-                    curve.YUnit = UnitKind::Length;
-                    curve.YName = label("Se,d(T) ", UnitSystem ? UnitSystem->GetLString() : "");
                 }
-                curve.SetName(name);
-                curve.XUnit = UnitKind::Time;
-                curve.XName = "T (sec)";
+                seisplot::LabelSpectrumCurve(curve, curveKind, d, UnitSystem);
                 functions.AddPCurve(curve);
             }
             m_spectraProgress.StepIt();
@@ -425,7 +407,7 @@ void ManageAccelerograms::PlotSpectra(SpectrumKind kind) {
         }
         m_spectraProgress.SetPos(0);
     }
-    if (kind == SpectrumKind::AccelerationDisplacement) {
+    if (curveKind == SpectrumCurveKind::AccelerationDisplacement) {
         PrintPMCurve display(this);
         display.UnitSystem = UnitSystem;
         display.Coll = polylines;

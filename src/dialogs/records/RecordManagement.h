@@ -12,6 +12,7 @@
 #include "platform/core/CProgressCtrl.h"
 #include "platform/ui/CDialog.h"
 #include "platform/ui/Controls.h"
+#include "records/SpectrumCurves.h"
 
 #include <optional>
 
@@ -81,8 +82,7 @@ protected:
     CProgressCtrl m_filesProgress;
 
 private:
-    enum class SpectrumKind { Acceleration, Displacement, AccelerationDisplacement };
-    void PlotSpectra(SpectrumKind kind);
+    void PlotSpectra(seisplot::SpectrumCurveKind kind);
     // The selected record (null: none), after reading the controls when `read`; false when a
     // field was refused.
     bool Selected(class Accelerogram*& record, bool read);

@@ -1,7 +1,7 @@
 #pragma once
-// The two kinds of curve collection the curve dialogs work on: function curves (PCurve in a
-// PCurveColl, files *.pcc) and free polylines (PMCurve in a PMCurveColl, files *.pmc). The
-// dialogs are written once over these.
+// The two kinds of curve collection: function curves (PCurve in a PCurveColl, files *.pcc) and
+// free polylines (PMCurve in a PMCurveColl, files *.pmc). What works on either (the curve
+// dialogs, the command line's curve commands) is written once over these.
 
 #include "host/CurveColl.h"
 
@@ -14,6 +14,7 @@ struct FunctionCurves {
     static void Add(Collection& c, const Curve& curve) { c.AddPCurve(curve); }
     static void Remove(Collection& c, int i) { c.RemovePCurve(i); }
     static constexpr const char* kFileFilter = "PCurves (*.pcc)|*.pcc||";
+    static constexpr const char* kExtension = ".pcc";
 };
 
 struct FreeCurves {
@@ -23,6 +24,7 @@ struct FreeCurves {
     static void Add(Collection& c, const Curve& curve) { c.AddPMCurve(curve); }
     static void Remove(Collection& c, int i) { c.RemovePMCurve(i); }
     static constexpr const char* kFileFilter = "PMCurves (*.pmc)|*.pmc||";
+    static constexpr const char* kExtension = ".pmc";
 };
 
 } // namespace seisplot
