@@ -80,6 +80,7 @@ struct SpectrumOptions {
     double maxPeriod = 4.0;
     double periodStep = 0.01;
     PlotOptions plot;
+    std::optional<std::string> curves; // --pcc or --pmc FILE: the spectra as a curve collection
     FormatFlags format;
 };
 void RunSpectrum(const SpectrumOptions& options, std::ostream& out);
@@ -150,6 +151,28 @@ struct MovieOptions {
 };
 void RunMovie(const MovieOptions& options, std::ostream& out);
 void AddMovieCommand(CLI::App& app, Action& action);
+
+// curves list|show|plot|mix FILE.pcc|FILE.pmc: curve collections
+struct CurvesOptions {
+    std::string file;
+    unsigned long curve = 0;       // show, plot
+    std::string units = "m,kN,s";  // show, mix: the units values are read in
+    bool swapAxes = false;         // show
+    std::string output;            // show: the listing file; mix: another collection file
+    PlotOptions plot;              // plot
+    std::vector<std::string> bind; // mix: VAR=N, the first is curve A
+    std::string formula;           // mix
+    bool onX = false;              // mix: the formula computes x...
+    bool onY = false;              // ...or y, the default
+    std::string kind = "length";   // mix: the unit kind of the computed coordinate
+    std::string name = "Unknown";  // mix: the new curve's name
+    FormatFlags format;
+};
+void RunCurvesList(const CurvesOptions& options, std::ostream& out);
+void RunCurvesShow(const CurvesOptions& options, std::ostream& out);
+void RunCurvesPlot(const CurvesOptions& options, std::ostream& out);
+void RunCurvesMix(const CurvesOptions& options, std::ostream& out);
+void AddCurvesCommand(CLI::App& app, Action& action);
 
 // demo [OUTDIR]
 void AddDemoCommand(CLI::App& app, Action& action);

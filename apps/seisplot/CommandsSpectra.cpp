@@ -1,15 +1,19 @@
 // spectrum and code: response spectra of a record, and code design spectra.
 
 #include "Archives.h"
+#include "AtomicFile.h"
 #include "Commands.h"
 #include "Errors.h"
 #include "FileChecks.h"
 #include "WorkLimits.h"
 
+#include "host/CurveKinds.h"
+#include "records/SpectrumCurves.h"
 #include "spectra/Spectrum.h"
 
 #include <cctype>
 #include <cmath>
+#include <filesystem>
 #include <iostream>
 
 namespace seisplot::cli {
@@ -71,12 +75,21 @@ void RunSpectrum(const SpectrumOptions& options, std::ostream& out) {
             RefuseOverwritingInput("--plot", picture, {{options.set, "the record set"}});
         }
     }
+    const bool ads = options.kind == "ads";
+    if (options.curves) {
+        const std::string extension = std::filesystem::path(*options.curves).extension().string();
+        if (extension != (ads ? FreeCurves::kExtension : FunctionCurves::kExtension)) {
+            BadUsage(ads ? "acceleration-displacement spectra are polylines: give --pmc FILE.pmc"
+                         : "spectra of periods are function curves: give --pcc FILE.pcc");
+        }
+        RefuseOverwritingInput(ads ? "--pmc" : "--pcc", *options.curves,
+                               {{options.set, "the record set"}});
+    }
     AccelerogramColl records;
     LoadRecordSet(options.set, records);
     Accelerogram& record = RecordAt(records, options.record, options.set);
     const double gridEnd = GridEnd(options.maxPeriod, options.periodStep);
 
-    const bool ads = options.kind == "ads";
     const char* heading = ads                     ? "Acceleration-displacement response spectrum"
                           : options.kind == "acc" ? "Acceleration response spectrum"
                                                   : "Displacement response spectrum";
@@ -85,6 +98,9 @@ void RunSpectrum(const SpectrumOptions& options, std::ostream& out) {
     // picture at all.
     std::vector<PCurve> plots;
     std::vector<PMCurve> adPlots;
+    // The spectra for --pcc / --pmc, named and labelled as the record dialog shows them.
+    PCurveColl functionCurves;
+    PMCurveColl polylineCurves;
     for (double damping : dampings) {
         Curve curve{damping, {}};
         int failed = 0;
@@ -97,6 +113,9 @@ void RunSpectrum(const SpectrumOptions& options, std::ostream& out) {
             if (options.plot.file) {
                 adPlots.push_back(result);
             }
+            LabelSpectrumCurve(result, SpectrumCurveKind::AccelerationDisplacement, damping,
+                               nullptr);
+            polylineCurves.AddPMCurve(result);
         } else {
             PCurve result;
             failed = options.kind == "acc"
@@ -108,6 +127,11 @@ void RunSpectrum(const SpectrumOptions& options, std::ostream& out) {
             if (options.plot.file) {
                 plots.push_back(result);
             }
+            LabelSpectrumCurve(result,
+                               options.kind == "acc" ? SpectrumCurveKind::Acceleration
+                                                     : SpectrumCurveKind::Displacement,
+                               damping, nullptr);
+            functionCurves.AddPCurve(result);
         }
         if (failed != 0 || curve.points.empty()) {
             const PCurve& r = record.Record;
@@ -129,6 +153,15 @@ void RunSpectrum(const SpectrumOptions& options, std::ostream& out) {
     };
     writePlots(plots);
     writePlots(adPlots);
+    if (options.curves) {
+        ReplaceFile(*options.curves, [&](const std::string& temporary) {
+            const int failed = ads ? polylineCurves.WriteToFile(temporary.c_str())
+                                   : functionCurves.WriteToFile(temporary.c_str());
+            if (failed != 0) {
+                Fail("cannot write the curve collection " + *options.curves);
+            }
+        });
+    }
 
     const char* xKey = ads ? "sd_mm" : "period_s";
     const char* yKey = ads ? "sa_g" : options.kind == "acc" ? "sa_g" : "sd_mm";
@@ -300,6 +333,13 @@ void AddSpectrumCommands(CLI::App& app, Action& action) {
         ->check(kSpectrumDt)
         ->capture_default_str();
     AddPlotOptions(*command, spectrum->plot);
+    auto* pcc = command->add_option(
+        "--pcc", spectrum->curves,
+        "Also save the spectra as a curve collection (acc, dis), one curve per damping");
+    command
+        ->add_option("--pmc", spectrum->curves,
+                     "Also save the acceleration-displacement spectra as a polyline collection")
+        ->excludes(pcc);
     AddFormatFlags(*command, spectrum->format, true);
     SetAction(*command, action, spectrum,
               [](const SpectrumOptions& o) { RunSpectrum(o, std::cout); });

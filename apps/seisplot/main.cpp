@@ -45,6 +45,7 @@ int main(int argc, char** argv) {
     seisplot::cli::AddReportCommands(app, action);
     seisplot::cli::AddGenerateCommands(app, action);
     seisplot::cli::AddMovieCommand(app, action);
+    seisplot::cli::AddCurvesCommand(app, action);
     seisplot::cli::AddDemoCommand(app, action);
 
     if (argc > 1 && argv[1][0] != '-') {
