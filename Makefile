@@ -49,7 +49,7 @@ bench:
 # A crash leaves its input in build/fuzz/artifacts and fails the target.
 FUZZ_TARGETS := fuzz_read_asc fuzz_read_txtplt fuzz_read_acc fuzz_read_spc fuzz_read_modes \
 	fuzz_read_font fuzz_read_curves fuzz_formula
-FUZZ_TIME ?= 20
+FUZZ_TIME ?= 10
 
 fuzz-smoke:
 	$(MAKE) configure PRESET=fuzz

@@ -34,7 +34,7 @@ TEST(CliCurves, SpectraSavedAsCollectionsListAndMix) {
     AccelerogramColl records = ReadSet(event.set);
     PCurveColl saved = ReadCollection<PCurveColl>(pcc);
     ASSERT_EQ(saved.GetPCurveNum(), 2);
-    const PCurve& second = *saved.GetP(2);
+    const PCurve second = *saved.GetP(2); // a copy: the collection is read again below
     EXPECT_EQ(std::string(second.GetName().GetString()), "Damp =   0.100");
     EXPECT_EQ(std::string(second.XName.GetString()), "T (sec)");
     EXPECT_EQ(std::string(second.YName.GetString()), "Se(T) [g]");
