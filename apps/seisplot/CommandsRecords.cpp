@@ -209,12 +209,7 @@ void AddRecordCommands(CLI::App& app, Action& action) {
     plotCommand->add_option("N", plot->record, "Record number (from 1)")
         ->required()
         ->check(kNumberFromOne);
-    plotCommand
-        ->add_option("-o,--output", plot->plot.file, "Picture: FILE.png, FILE.svg or FILE.pdf")
-        ->required();
-    plotCommand
-        ->add_option("--size", plot->plot.size, "Picture size WIDTHxHEIGHT in pixels (PNG, SVG)")
-        ->capture_default_str();
+    AddPictureOptions(*plotCommand, plot->plot);
     SetAction(*plotCommand, action, plot,
               [](const RecordPlotOptions& o) { RunRecordPlot(o, std::cout); });
 }

@@ -94,11 +94,23 @@ PictureSize ParsePictureSize(const std::string& text) {
     return {width, height};
 }
 
+namespace {
+void AddSizeOption(CLI::App& command, PlotOptions& options) {
+    command.add_option("--size", options.size, "Picture size WIDTHxHEIGHT in pixels (PNG, SVG)")
+        ->capture_default_str();
+}
+} // namespace
+
 void AddPlotOptions(CLI::App& command, PlotOptions& options) {
     command.add_option("--plot", options.file,
                        "Also draw the curve into a picture: FILE.png, FILE.svg or FILE.pdf");
-    command.add_option("--size", options.size, "Picture size WIDTHxHEIGHT in pixels (PNG, SVG)")
-        ->capture_default_str();
+    AddSizeOption(command, options);
+}
+
+void AddPictureOptions(CLI::App& command, PlotOptions& options) {
+    command.add_option("-o,--output", options.file, "Picture: FILE.png, FILE.svg or FILE.pdf")
+        ->required();
+    AddSizeOption(command, options);
 }
 
 void CheckPlotOptions(const PlotOptions& options) {

@@ -16,6 +16,8 @@ struct PlotOptions {
     std::string size = "800x600";    // --size WxH, pixels (PNG and SVG)
 };
 void AddPlotOptions(CLI::App& command, PlotOptions& options);
+// -o FILE (required) and --size: for the commands whose whole output is the picture.
+void AddPictureOptions(CLI::App& command, PlotOptions& options);
 
 struct PictureSize {
     int width;
