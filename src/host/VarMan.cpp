@@ -2,6 +2,7 @@
 
 #include <muParser.h>
 
+#include <cctype>
 #include <cmath>
 #include <cstring>
 #include <memory>
@@ -34,6 +35,33 @@ bool Matches(const CompiledFormula& compiled, const std::string& text,
     return true;
 }
 
+// What a formula computes. "DriftX = (A - B)" names its result: the name and its '=' are a
+// label. Any other '=' that is not part of "==", "<=", ">=" or "!=" would assign to a
+// variable (muParser's "=", "+=", ...), which changes a bound curve's value for the rest of
+// the evaluation: such a formula is refused (empty answer).
+std::string FormulaBody(const std::string& text) {
+    size_t start = 0;
+    while (start < text.size() &&
+           (std::isalnum(static_cast<unsigned char>(text[start])) != 0 || text[start] == '_')) {
+        ++start;
+    }
+    const bool labelled = start > 0 && std::isdigit(static_cast<unsigned char>(text[0])) == 0 &&
+                          start + 1 < text.size() && text[start] == '=' && text[start + 1] != '=';
+    const std::string body = labelled ? text.substr(start + 1) : text;
+    for (size_t i = 0; i < body.size(); ++i) {
+        if (body[i] != '=') {
+            continue;
+        }
+        const char before = i > 0 ? body[i - 1] : '\0';
+        const bool closes = before == '=' || before == '<' || before == '>' || before == '!';
+        const bool opens = i + 1 < body.size() && body[i + 1] == '=';
+        if (!closes && !opens) {
+            return {};
+        }
+    }
+    return body;
+}
+
 // Sets `parser` up for `text` with variable i bound to values[i]; false for a name given
 // twice (muParser raises for a name it cannot hold).
 bool Setup(mu::Parser& parser, const std::string& text, const std::vector<Variable>& vars,
@@ -50,7 +78,11 @@ bool Setup(mu::Parser& parser, const std::string& text, const std::vector<Variab
         }
         parser.DefineVar(name, values[i]);
     }
-    parser.SetExpr(text);
+    const std::string body = FormulaBody(text);
+    if (body.empty()) {
+        return false;
+    }
+    parser.SetExpr(body);
     return true;
 }
 

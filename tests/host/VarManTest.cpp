@@ -69,6 +69,15 @@ TEST(VarManTest, ErrorsAreNonZeroAndLeaveResultAndCursor) {
     EXPECT_NE(Evaluate("A+B", 1.0, 2.0, "A").first, 0);
     EXPECT_NE(Evaluate("A+B", 1.0, 2.0, "2x").first, 0);
     EXPECT_NE(Evaluate("A+B", 1.0, 2.0, "").first, 0);
+    // A formula may name its result, as the mixing dialog's example does; it may not assign
+    // to a variable, which would change a bound curve's value while it is evaluated.
+    EXPECT_EQ(Evaluate("DriftX_Column123=(A-B)", 1.0, 2.0), std::make_pair(0, -1.0));
+    EXPECT_EQ(Evaluate("A=B*3", 1.0, 2.0), std::make_pair(0, 6.0));
+    EXPECT_EQ(Evaluate("(A<=B)+(A==B)+(A!=B)", 1.0, 2.0), std::make_pair(0, 2.0));
+    for (const char* formula : {"B?A=1:2", "A+=1", "X=A=B", "=A", "A="}) {
+        SCOPED_TRACE(formula);
+        EXPECT_NE(Evaluate(formula, 1.0, 2.0).first, 0);
+    }
     // After an error the same formula with good names works.
     EXPECT_EQ(Evaluate("A+B", 1.0, 2.0), std::make_pair(0, 3.0));
 }
